@@ -1,0 +1,27 @@
+#include "LogController/LogController.h"
+
+#include <cstdint>
+#include <ctime>
+#include <utility>
+
+namespace {
+
+std::string twoDigits(int number) {
+    const std::string text = toString(number);
+    return text.size() == 1 ? "0" + text : text;
+}
+
+} // namespace
+
+
+LogController::LogController(std::ostream& outStream, std::string additionalString)
+    : additionalString(std::move(additionalString)), outStream(outStream) {}
+
+
+std::string LogController::timeStamp() {
+    const auto now = static_cast<int32_t>(time(nullptr));
+    const int sec = now % 60;
+    const int minute = now / 60 % 60;
+    const int heure = (now / 3600 + 1) % 24;
+    return twoDigits(heure) + ":" + twoDigits(minute) + ":" + twoDigits(sec);
+}

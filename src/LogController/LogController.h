@@ -1,0 +1,54 @@
+#ifndef LOG_CONTROLLER_H
+#define LOG_CONTROLLER_H
+
+#include "utility/utility.h"
+
+#include <ostream>
+#include <sstream>
+#include <string>
+
+/// A logger: writes time-stamped lines with a fixed prefix to one stream.
+class LogController {
+public:
+    /// Logs to `outStream`, which must outlive the logger; an empty prefix is left out of the lines.
+    LogController(std::ostream& outStream, std::string additionalString);
+    virtual ~LogController() = default;
+
+    /// The line "HH:MM:SS prefix message" without its end.
+    template <typename T>
+    std::string getLogMessage(const T& message) const {
+        std::ostringstream line;
+        line << timeStamp() << " ";
+        if (!additionalString.empty())
+            line << additionalString << " ";
+        line << message;
+        return line.str();
+    }
+
+    /// Writes one line and flushes.
+    template <typename T>
+    void log(const T& message) const {
+        log(message, std::string(""));
+    }
+
+    /// Writes one line of two messages and flushes; an empty second message leaves no trailing space.
+    template <typename T1, typename T2>
+    void log(const T1& messageFirst, const T2& messageSecond) const {
+        // A constant logger still writes: only its destination and prefix are fixed.
+        std::ostream& out = const_cast<std::ostream&>(outStream);
+        out << getLogMessage(messageFirst);
+        const std::string second = toString(messageSecond);
+        if (!second.empty())
+            out << " " << second;
+        out << std::endl;
+    }
+
+private:
+    /// The time of day as "HH:MM:SS", always one hour ahead of UTC.
+    static std::string timeStamp();
+
+    std::string additionalString;
+    const std::ostream& outStream;
+};
+
+#endif

@@ -1,0 +1,3 @@
+#include "LogController/LogControllerError.h"
+
+LogControllerError::LogControllerError(std::ostream& outStream) : LogController(outStream, "[Error]") {}

@@ -1,0 +1,13 @@
+#ifndef LOG_CONTROLLER_ERROR_H
+#define LOG_CONTROLLER_ERROR_H
+
+#include "LogController/LogController.h"
+
+/// The logger of errors: its lines carry the prefix "[Error]".
+class LogControllerError : public LogController {
+public:
+    /// Logs to `outStream`, which must outlive the logger.
+    LogControllerError(std::ostream& outStream);
+};
+
+#endif

@@ -1,0 +1,22 @@
+#ifndef EXCEPTION_TYPE_H
+#define EXCEPTION_TYPE_H
+
+#include <string>
+
+/// One kind of error: a number to tell it by, a short name, and a French description for the reader of a
+/// log. Every source file has its own copies of the kinds, so compare numbers, never addresses.
+class ExceptionType {
+public:
+    ExceptionType(unsigned int exceptionNumber, std::string description, std::string name);
+
+    unsigned int getExceptionNumber() const;
+    std::string getDescription() const;
+    std::string getName() const;
+
+private:
+    unsigned int exceptionNumber;
+    std::string description;
+    std::string name;
+};
+
+#endif

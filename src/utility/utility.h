@@ -1,0 +1,39 @@
+#ifndef UTILITY_H
+#define UTILITY_H
+
+#include <cstddef>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Deletes every object of a vector of owning pointers. The vector keeps its length, its entries become
+/// null, so a second call deletes nothing.
+template <typename T>
+void deletePointerInVector(std::vector<T*>& vect) {
+    for (T*& pointer : vect) {
+        delete pointer;
+        pointer = nullptr;
+    }
+}
+
+/// Removes the element at `pos` in constant time by moving the last element into its place: the order is
+/// lost. A position outside the vector removes nothing. What a removed pointer points to stays alive.
+template <typename T>
+void removeInVectorFromPosNoOrder(std::vector<T>& vect, const size_t& pos) {
+    if (pos < vect.size()) {
+        std::swap(vect[pos], vect.back());
+        vect.pop_back();
+    }
+}
+
+/// The text that a plain output stream makes of `input`: six significant digits for a double, a string
+/// unchanged.
+template <typename T>
+std::string toString(const T& input) {
+    std::ostringstream text;
+    text << input;
+    return text.str();
+}
+
+#endif
