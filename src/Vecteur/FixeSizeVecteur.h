@@ -1,0 +1,47 @@
+#ifndef FIXE_SIZE_VECTEUR_H
+#define FIXE_SIZE_VECTEUR_H
+
+#include "Vecteur/vecteur.h"
+#include "exception/exception.h"
+#include "exception/exceptionTypeDef.h"
+
+#include <array>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+/// A vector of exactly N components, from its construction on: a constructor that is given another number
+/// raises an Exception of the kind VECTEUR_SIZE_INCORRECT.
+template <unsigned int N>
+class FixeSizeVecteur : public Vecteur {
+public:
+    FixeSizeVecteur(const std::initializer_list<double>& liste) : Vecteur(liste) {
+        if (size() != N)
+            throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+    }
+
+    FixeSizeVecteur(std::vector<double> coords) : Vecteur(std::move(coords)) {
+        if (size() != N)
+            throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+    }
+
+    FixeSizeVecteur(const Vecteur& vect) : Vecteur(vect) {
+        if (size() != N)
+            throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+    }
+
+    /// N components, each equal to `value`.
+    FixeSizeVecteur(double value) : FixeSizeVecteur(std::vector<double>(N, value)) {}
+    FixeSizeVecteur(const std::array<double, N>& coords)
+        : FixeSizeVecteur(std::vector<double>(coords.begin(), coords.end())) {}
+    FixeSizeVecteur(const FixeSizeVecteur<N>& vect) = default;
+    FixeSizeVecteur<N>& operator=(const FixeSizeVecteur<N>& vect) = default;
+    ~FixeSizeVecteur() override = default;
+
+    /// Always raises VECTEUR_SIZE_INCORRECT: the dimension is fixed.
+    void addDim(double /*x*/) override {
+        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+    }
+};
+
+#endif

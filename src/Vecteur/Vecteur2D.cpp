@@ -1,0 +1,57 @@
+#include "Vecteur/Vecteur2D.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double pi = 3.141592653589793;
+constexpr double halfTurn = 180.0;
+constexpr double fullTurn = 360.0;
+
+} // namespace
+
+
+Vecteur2D::Vecteur2D() : Vecteur2D(0.0) {}
+
+
+Vecteur2D::Vecteur2D(const double& value) : FixeSizeVecteur<2>(value) {}
+
+
+Vecteur2D::Vecteur2D(const double& c1, const double& c2) : FixeSizeVecteur<2>({c1, c2}) {}
+
+
+Vecteur2D::Vecteur2D(const std::vector<double>& coords) : FixeSizeVecteur<2>(coords) {}
+
+
+Vecteur2D::Vecteur2D(const Vecteur& vect) : FixeSizeVecteur<2>(vect) {}
+
+
+Vecteur2D::Vecteur2D(const std::initializer_list<double>& liste) : FixeSizeVecteur<2>(liste) {}
+
+
+Vecteur2D::Vecteur2D(const FixeSizeVecteur<2>& vect) : FixeSizeVecteur<2>(vect) {}
+
+
+void Vecteur2D::setFormPolar(const double& norme, const double& angle) {
+    (*this)[0] = std::cos(angle) * norme;
+    (*this)[1] = std::sin(angle) * norme;
+}
+
+
+double Vecteur2D::getAngle() const {
+    const double x = coord(0);
+    const double y = coord(1);
+    if (x == 0.0)
+        return y > 0.0 ? 90.0 : -90.0;
+    const double angle = std::atan(y / x) / pi * halfTurn;
+    return x > 0.0 ? angle : angle + halfTurn;
+}
+
+
+double Vecteur2D::normaliserAngle(double degre) {
+    while (degre > halfTurn)
+        degre -= fullTurn;
+    while (degre <= -halfTurn)
+        degre += fullTurn;
+    return degre;
+}
