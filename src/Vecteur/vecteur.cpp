@@ -151,7 +151,17 @@ Vecteur Vecteur::normalise() const {
 }
 
 
-double Vecteur::distance(const Vecteur& vectAutre) const { return std::abs(moins(vectAutre).norme()); }
+// The norm of the difference, without building the difference: every pair of objects asks for it.
+double Vecteur::distance(const Vecteur& vectAutre) const {
+    if (size() != vectAutre.size())
+        return moins(vectAutre).norme();
+    double sum = 0.0;
+    for (size_t i = 0; i < size(); ++i) {
+        const double difference = coords[i] - vectAutre.coords[i];
+        sum += difference * difference;
+    }
+    return std::sqrt(sum);
+}
 
 
 Vecteur& Vecteur::operator+=(const Vecteur& vect) {

@@ -60,6 +60,7 @@ public:
     double norme() const;
     /// The vector of length 1 in the same direction; a zero vector stays as it is.
     Vecteur normalise() const;
+    /// The norm of the difference; allocates nothing.
     double distance(const Vecteur& vectAutre) const;
     Vecteur& operator+=(const Vecteur& vect);
     Vecteur& operator-=(const Vecteur& vect);

@@ -1,0 +1,50 @@
+#include "Entity/Entity.h"
+
+#include "Game/Game.h"
+
+Entity::Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate,
+               double collideBoxWidth, double collideBoxHeigth)
+    : position(position), _isSolide(_isSolide), collideBoxWidth(collideBoxWidth),
+      collideBoxHeigth(collideBoxHeigth), isActivate(isActivate) {}
+
+
+bool Entity::isSolide() const { return _isSolide; }
+
+
+bool Entity::getIsActivate() const { return isActivate; }
+
+
+Vecteur2D Entity::getPos() const { return position; }
+
+
+Vecteur2D& Entity::getPos() { return position; }
+
+
+void Entity::setPosition(const Vecteur2D& vect) { position = vect; }
+
+
+Vecteur2D Entity::getPosCase() const {
+    return {static_cast<double>(static_cast<int>(position[0]) / static_cast<int>(Game::largeur_case)),
+            static_cast<double>(static_cast<int>(position[1]) / static_cast<int>(Game::hauteur_case))};
+}
+
+
+void Entity::setPositionCase(const Vecteur2D& vect) {
+    position = Vecteur2D(vect.scale(Vecteur2D(Game::largeur_case, Game::hauteur_case)));
+}
+
+
+double Entity::getCollideBoxWidth() const { return collideBoxWidth; }
+
+
+double Entity::getCollideBoxHeigth() const { return collideBoxHeigth; }
+
+
+void Entity::setIsSolide(bool solide) { _isSolide = solide; }
+
+
+bool Entity::isColliding(Entity& entity) const {
+    if (!isSolide() || !entity.isSolide() || &entity == this || !isActivate || !entity.getIsActivate())
+        return false;
+    return collideBoxWidth + entity.getCollideBoxWidth() > entity.position.distance(position);
+}

@@ -1,0 +1,68 @@
+#ifndef ENTITY_H
+#define ENTITY_H
+
+#include "Vecteur/Vecteur2D.h"
+
+class Beam;
+class Ennemi;
+class Game;
+class Tower;
+
+/// An object that stands in the play field. Two solid and active objects collide when their discs overlap;
+/// the first then tells the second what it is (collide), and the second answers (onCollide...).
+class Entity {
+public:
+    /// At `position` (pixels). `collideBoxWidth` is the radius of the collision disc in pixels;
+    /// `collideBoxHeigth` is kept for readers, no rule uses it.
+    Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate, double collideBoxWidth,
+           double collideBoxHeigth);
+    Entity(const Entity& entity) = default;
+    Entity& operator=(const Entity& entity) = default;
+
+    // The virtual operations, in the order of their slots.
+
+    /// Tells `entity`, which this object was found to touch, what it was touched by.
+    virtual void collide(Entity* entity) = 0;
+    /// `dt` is the frame period in milliseconds, which no object needs.
+    virtual void draw(const double& dt) const = 0;
+    /// One step of `dt` seconds.
+    virtual void update(const double& dt, const Game& game) = 0;
+    virtual void onCollideBeam(Beam* beam) = 0;
+    virtual void onCollideEnnemi(Ennemi* ennemi) = 0;
+    virtual void onCollideTower(Tower* tower) = 0;
+    virtual ~Entity() = default;
+    /// A copy of the object's own class, owned by the caller.
+    virtual Entity* copy() const = 0;
+    /// Takes part in collisions at all.
+    virtual bool isSolide() const;
+    /// Still in play; what has left play never comes back.
+    virtual bool getIsActivate() const;
+
+    /// The position in pixels from the window's lower-left corner.
+    Vecteur2D getPos() const;
+    Vecteur2D& getPos();
+    void setPosition(const Vecteur2D& vect);
+
+    /// The column and row of the cell that the position lies in.
+    Vecteur2D getPosCase() const;
+    /// Moves to the lower-left corner of the cell with the column and row `vect`.
+    void setPositionCase(const Vecteur2D& vect);
+
+    double getCollideBoxWidth() const;
+    double getCollideBoxHeigth() const;
+    void setIsSolide(bool solide);
+
+    /// The discs overlap; touching at one point only does not count, nor does an object touch itself.
+    bool isColliding(Entity& entity) const;
+
+private:
+    Vecteur2D position;
+    bool _isSolide;
+    double collideBoxWidth;
+    double collideBoxHeigth;
+
+protected:
+    bool isActivate;
+};
+
+#endif

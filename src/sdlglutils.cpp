@@ -1,0 +1,286 @@
+#include "sdlglutils.h"
+
+#include <SDL_image.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Bytes in memory run red, green, blue, alpha on a little-endian machine, as OpenGL's GL_RGBA wants them.
+constexpr Uint32 redMask = 0x000000FF;
+constexpr Uint32 greenMask = 0x0000FF00;
+constexpr Uint32 blueMask = 0x00FF0000;
+constexpr Uint32 alphaMask = 0xFF000000;
+
+SDL_Surface* newRGBASurface(int width, int height) {
+    return SDL_CreateRGBSurface(SDL_SWSURFACE, width, height, 32, redMask, greenMask, blueMask, alphaMask);
+}
+
+
+// The four corners of a quad in the usual order: lower left, lower right, upper right, upper left.
+void quadVertices(double x, double y, double w, double h, const TextureArea& area) {
+    glTexCoord2d(area.left, area.bottom);
+    glVertex2d(x, y);
+    glTexCoord2d(area.right, area.bottom);
+    glVertex2d(x + w, y);
+    glTexCoord2d(area.right, area.top);
+    glVertex2d(x + w, y + h);
+    glTexCoord2d(area.left, area.top);
+    glVertex2d(x, y + h);
+}
+
+
+char xpmCharacter(SDL_Surface* image, int x, int y) {
+    constexpr Uint8 half = 128;
+    Uint32 pixel = 0;
+    std::memcpy(&pixel, static_cast<const Uint8*>(image->pixels) + y * image->pitch + x * sizeof pixel,
+                sizeof pixel);
+    Uint8 red = 0;
+    Uint8 green = 0;
+    Uint8 blue = 0;
+    Uint8 alpha = 0;
+    SDL_GetRGBA(pixel, image->format, &red, &green, &blue, &alpha);
+    if (alpha < half)
+        return ' ';
+    return red < half && green < half && blue < half ? 'X' : '.';
+}
+
+} // namespace
+
+
+GLuint loadTexture(const char* filename, bool useMipMap) {
+    SDL_Surface* picture_surface = IMG_Load(filename);
+    if (picture_surface == nullptr)
+        return 0;
+
+    SDL_PixelFormat format = *picture_surface->format;
+    format.palette = nullptr;
+    format.BitsPerPixel = 32;
+    format.BytesPerPixel = 4;
+    format.Rmask = redMask;
+    format.Gmask = greenMask;
+    format.Bmask = blueMask;
+    format.Amask = alphaMask;
+    SDL_Surface* gl_surface = SDL_ConvertSurface(picture_surface, &format, SDL_SWSURFACE);
+    SDL_Surface* gl_fliped_surface = flipSurface(gl_surface);
+
+    GLuint glID = 0;
+    glGenTextures(1, &glID);
+    glBindTexture(GL_TEXTURE_2D, glID);
+    if (useMipMap) {
+        gluBuild2DMipmaps(GL_TEXTURE_2D, 4, gl_fliped_surface->w, gl_fliped_surface->h, GL_RGBA,
+                          GL_UNSIGNED_BYTE, gl_fliped_surface->pixels);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
+    } else {
+        glTexImage2D(GL_TEXTURE_2D, 0, 4, gl_fliped_surface->w, gl_fliped_surface->h, 0, GL_RGBA,
+                     GL_UNSIGNED_BYTE, gl_fliped_surface->pixels);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    }
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+
+    SDL_FreeSurface(gl_fliped_surface);
+    SDL_FreeSurface(gl_surface);
+    SDL_FreeSurface(picture_surface);
+    return glID;
+}
+
+
+GLuint sharedTexture(const char* filename) {
+    static std::map<std::string, GLuint> textures;
+    const auto known = textures.find(filename);
+    if (known != textures.end())
+        return known->second;
+    return textures[filename] = loadTexture(filename, true);
+}
+
+
+void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, const TextureArea& area) {
+    glEnable(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glBegin(GL_QUADS);
+    quadVertices(x, y, w, h, area);
+    glEnd();
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glDisable(GL_TEXTURE_2D);
+}
+
+
+void drawDigits(GLuint texture, int number, int count, double w, double h) {
+    glEnable(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glBegin(GL_QUADS);
+    int arg = number;
+    for (int i = 0; i < count; ++i) {
+        const int d = arg % 10;
+        arg = (arg - d) / 10;
+        quadVertices(-i * w, 0.0, w, h, {d / 10.0, 0.0, d / 10.0 + 0.1, 1.0});
+    }
+    glEnd();
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glDisable(GL_TEXTURE_2D);
+}
+
+
+void playSound(Mix_Chunk* son) {
+    constexpr int firstFreeChannel = -1;
+    constexpr int noTimeLimit = -1;
+    Mix_PlayChannelTimed(firstFreeChannel, son, 0, noTimeLimit);
+}
+
+
+int takeScreenshot(const char* filename) {
+    GLint viewport[4];
+    glGetIntegerv(GL_VIEWPORT, viewport);
+
+    SDL_Surface* picture = newRGBASurface(viewport[2], viewport[3]);
+    SDL_LockSurface(picture);
+    glReadPixels(viewport[0], viewport[1], viewport[2], viewport[3], GL_RGBA, GL_UNSIGNED_BYTE,
+                 picture->pixels);
+    SDL_UnlockSurface(picture);
+
+    // The window shows no alpha; saving with it would darken every pixel that is not opaque.
+    SDL_Surface* finalpicture = flipSurface(picture);
+    SDL_SetAlpha(finalpicture, 0, SDL_ALPHA_OPAQUE);
+    const int result = SDL_SaveBMP_RW(finalpicture, SDL_RWFromFile(filename, "wb"), 1);
+
+    SDL_FreeSurface(finalpicture);
+    SDL_FreeSurface(picture);
+    return result == 0 ? 0 : -1;
+}
+
+
+SDL_Surface* flipSurface(SDL_Surface* surface) {
+    const SDL_PixelFormat& format = *surface->format;
+    SDL_Surface* fliped_surface =
+        SDL_CreateRGBSurface(SDL_SWSURFACE, surface->w, surface->h, format.BitsPerPixel, format.Rmask,
+                             format.Gmask, format.Bmask, format.Amask);
+    SDL_LockSurface(surface);
+    SDL_LockSurface(fliped_surface);
+
+    // Surfaces of one size may differ in the length of their rows.
+    const int pitch = std::min(surface->pitch, fliped_surface->pitch);
+    const auto* source = static_cast<const Uint8*>(surface->pixels);
+    auto* target = static_cast<Uint8*>(fliped_surface->pixels);
+    for (int current_line = 0; current_line < surface->h; ++current_line)
+        std::memcpy(target + current_line * fliped_surface->pitch,
+                    source + (surface->h - 1 - current_line) * surface->pitch, pitch);
+
+    SDL_UnlockSurface(fliped_surface);
+    SDL_UnlockSurface(surface);
+    return fliped_surface;
+}
+
+
+void drawAxis(double scale) {
+    glPushAttrib(GL_ALL_ATTRIB_BITS);
+    glPushMatrix();
+    glDisable(GL_LIGHTING);
+    glDisable(GL_TEXTURE_2D);
+    glEnable(GL_BLEND);
+    glEnable(GL_LINE_SMOOTH);
+    glLineWidth(2.0F);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    glScaled(scale, scale, scale);
+
+    glBegin(GL_LINES);
+    glColor3ub(255, 0, 0);
+    glVertex3i(0, 0, 0);
+    glVertex3i(1, 0, 0);
+    glColor3ub(0, 255, 0);
+    glVertex3i(0, 0, 0);
+    glVertex3i(0, 1, 0);
+    glColor3ub(0, 0, 255);
+    glVertex3i(0, 0, 0);
+    glVertex3i(0, 0, 1);
+    glEnd();
+
+    glPopMatrix();
+    glPopAttrib();
+}
+
+
+int initFullScreen(unsigned int* width, unsigned int* height) {
+    SDL_Rect** modes = SDL_ListModes(nullptr, SDL_FULLSCREEN | SDL_OPENGL);
+    if (modes == nullptr || modes == reinterpret_cast<SDL_Rect**>(-1))
+        return 0;
+
+    const SDL_Rect& largest = *modes[0];
+    if (width != nullptr)
+        *width = largest.w;
+    if (height != nullptr)
+        *height = largest.h;
+    const SDL_Surface* screen = SDL_SetVideoMode(largest.w, largest.h, SDL_GetVideoInfo()->vfmt->BitsPerPixel,
+                                                 SDL_FULLSCREEN | SDL_OPENGL);
+    return screen == nullptr ? -1 : 0;
+}
+
+
+int XPMFromImage(const char* imagefile, const char* XPMfile) {
+    SDL_Surface* image = IMG_Load(imagefile);
+    if (image == nullptr)
+        return -1;
+
+    // Without this a blit would leave the copy's alpha at 0 instead of taking the image's own.
+    SDL_Surface* image32bits = newRGBASurface(image->w, image->h);
+    SDL_SetAlpha(image, 0, SDL_ALPHA_OPAQUE);
+    SDL_UpperBlit(image, nullptr, image32bits, nullptr);
+    SDL_FreeSurface(image);
+
+    std::ofstream xpm(XPMfile);
+    const std::string path = imagefile;
+    const std::string xpm_name = path.substr(0, path.find('.'));
+    const int w = (image32bits->w + 7) / 8 * 8;
+    xpm << "const char *" << xpm_name << "[] =\n"
+        << "\t{\n"
+        << "\t\t/* width height num_colors chars_per_pixel */\n"
+        << "\t\t\" " << w << " " << image32bits->h << " 3 1 \",\n"
+        << "\t\t/* colors */\n"
+        << "\t\t\"X c #000000\",\n"
+        << "\t\t\". c #ffffff\",\n"
+        << "\t\t\"  c None\",\n"
+        << "\t\t/* pixels */\n";
+    for (int y = 0; y < image32bits->h; ++y) {
+        std::string row(w, ' ');
+        for (int x = 0; x < image32bits->w; ++x)
+            row[x] = xpmCharacter(image32bits, x, y);
+        xpm << "\t\t\"" << row << "\",\n";
+    }
+    xpm << "\t\t\"0,0\"\n"
+        << "\t};\n";
+
+    SDL_FreeSurface(image32bits);
+    return xpm.flush() ? 0 : -1;
+}
+
+
+SDL_Cursor* cursorFromXPM(const char** xpm) {
+    constexpr int firstPixelRow = 4;
+    int width = 0;
+    int height = 0;
+    std::sscanf(xpm[0], "%d %d", &width, &height);
+
+    std::vector<Uint8> data(width / 8 * height, 0);
+    std::vector<Uint8> mask(data);
+    for (int row = 0; row < height; ++row) {
+        for (int col = 0; col < width; ++col) {
+            const int byte = (row * width + col) / 8;
+            const Uint8 bit = 0x80U >> col % 8;
+            const char pixel = xpm[firstPixelRow + row][col];
+            if (pixel == 'X')
+                data[byte] |= bit;
+            if (pixel == 'X' || pixel == '.')
+                mask[byte] |= bit;
+        }
+    }
+
+    int hot_x = 0;
+    int hot_y = 0;
+    std::sscanf(xpm[firstPixelRow + height], "%d,%d", &hot_x, &hot_y);
+    return SDL_CreateCursor(data.data(), mask.data(), width, height, hot_x, hot_y);
+}
