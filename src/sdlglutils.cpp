@@ -39,8 +39,7 @@ void quadVertices(double x, double y, double w, double h, const TextureArea& are
 char xpmCharacter(SDL_Surface* image, int x, int y) {
     constexpr Uint8 half = 128;
     Uint32 pixel = 0;
-    std::memcpy(&pixel, static_cast<const Uint8*>(image->pixels) + y * image->pitch + x * sizeof pixel,
-                sizeof pixel);
+    std::memcpy(&pixel, static_cast<const Uint8*>(image->pixels) + y * image->pitch + x * sizeof pixel, sizeof pixel);
     Uint8 red = 0;
     Uint8 green = 0;
     Uint8 blue = 0;
@@ -74,12 +73,12 @@ GLuint loadTexture(const char* filename, bool useMipMap) {
     glGenTextures(1, &glID);
     glBindTexture(GL_TEXTURE_2D, glID);
     if (useMipMap) {
-        gluBuild2DMipmaps(GL_TEXTURE_2D, 4, gl_fliped_surface->w, gl_fliped_surface->h, GL_RGBA,
-                          GL_UNSIGNED_BYTE, gl_fliped_surface->pixels);
+        gluBuild2DMipmaps(GL_TEXTURE_2D, 4, gl_fliped_surface->w, gl_fliped_surface->h, GL_RGBA, GL_UNSIGNED_BYTE,
+                          gl_fliped_surface->pixels);
         glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
     } else {
-        glTexImage2D(GL_TEXTURE_2D, 0, 4, gl_fliped_surface->w, gl_fliped_surface->h, 0, GL_RGBA,
-                     GL_UNSIGNED_BYTE, gl_fliped_surface->pixels);
+        glTexImage2D(GL_TEXTURE_2D, 0, 4, gl_fliped_surface->w, gl_fliped_surface->h, 0, GL_RGBA, GL_UNSIGNED_BYTE,
+                     gl_fliped_surface->pixels);
         glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
     }
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
@@ -127,10 +126,21 @@ void drawDigits(GLuint texture, int number, int count, double w, double h) {
 }
 
 
-void playSound(Mix_Chunk* son) {
-    constexpr int firstFreeChannel = -1;
+void clockwiseQuadVertices(double x, double y, double w, double h, const TextureArea& area) {
+    glTexCoord2d(area.left, area.bottom);
+    glVertex2d(x, y);
+    glTexCoord2d(area.left, area.top);
+    glVertex2d(x, y + h);
+    glTexCoord2d(area.right, area.top);
+    glVertex2d(x + w, y + h);
+    glTexCoord2d(area.right, area.bottom);
+    glVertex2d(x + w, y);
+}
+
+
+void playSound(Mix_Chunk* son, int channel) {
     constexpr int noTimeLimit = -1;
-    Mix_PlayChannelTimed(firstFreeChannel, son, 0, noTimeLimit);
+    Mix_PlayChannelTimed(channel, son, 0, noTimeLimit);
 }
 
 
@@ -140,8 +150,7 @@ int takeScreenshot(const char* filename) {
 
     SDL_Surface* picture = newRGBASurface(viewport[2], viewport[3]);
     SDL_LockSurface(picture);
-    glReadPixels(viewport[0], viewport[1], viewport[2], viewport[3], GL_RGBA, GL_UNSIGNED_BYTE,
-                 picture->pixels);
+    glReadPixels(viewport[0], viewport[1], viewport[2], viewport[3], GL_RGBA, GL_UNSIGNED_BYTE, picture->pixels);
     SDL_UnlockSurface(picture);
 
     // The window shows no alpha; saving with it would darken every pixel that is not opaque.
@@ -157,9 +166,8 @@ int takeScreenshot(const char* filename) {
 
 SDL_Surface* flipSurface(SDL_Surface* surface) {
     const SDL_PixelFormat& format = *surface->format;
-    SDL_Surface* fliped_surface =
-        SDL_CreateRGBSurface(SDL_SWSURFACE, surface->w, surface->h, format.BitsPerPixel, format.Rmask,
-                             format.Gmask, format.Bmask, format.Amask);
+    SDL_Surface* fliped_surface = SDL_CreateRGBSurface(SDL_SWSURFACE, surface->w, surface->h, format.BitsPerPixel,
+                                                       format.Rmask, format.Gmask, format.Bmask, format.Amask);
     SDL_LockSurface(surface);
     SDL_LockSurface(fliped_surface);
 
@@ -215,8 +223,8 @@ int initFullScreen(unsigned int* width, unsigned int* height) {
         *width = largest.w;
     if (height != nullptr)
         *height = largest.h;
-    const SDL_Surface* screen = SDL_SetVideoMode(largest.w, largest.h, SDL_GetVideoInfo()->vfmt->BitsPerPixel,
-                                                 SDL_FULLSCREEN | SDL_OPENGL);
+    const SDL_Surface* screen =
+        SDL_SetVideoMode(largest.w, largest.h, SDL_GetVideoInfo()->vfmt->BitsPerPixel, SDL_FULLSCREEN | SDL_OPENGL);
     return screen == nullptr ? -1 : 0;
 }
 

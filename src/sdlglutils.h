@@ -24,16 +24,22 @@ constexpr TextureArea wholeTexture{0.0, 0.0, 1.0, 1.0};
 
 /// Draws one quad of `w` x `h` pixels with its lower-left corner at (`x`, `y`), in the current colour, and
 /// leaves texturing disabled and texture 0 bound.
-void drawTexturedQuad(GLuint texture, double x, double y, double w, double h,
-                      const TextureArea& area = wholeTexture);
+void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, const TextureArea& area = wholeTexture);
 
 /// Draws the last `count` digits of `number`, which must not be negative, in the current colour; leaves
 /// texturing disabled and texture 0 bound. The units stand with their lower-left corner at the origin, the
 /// other digits to their left, each `w` x `h` pixels. The texture holds the digits 0 to 9 side by side.
 void drawDigits(GLuint texture, int number, int count, double w, double h);
 
-/// Plays a sound once on the first free channel; silent if there is no sound or no free channel.
-void playSound(Mix_Chunk* son);
+/// Emits the corners of one quad into an open batch of quads, lower left, upper left, upper right, lower
+/// right: the other way round than drawTexturedQuad.
+void clockwiseQuadVertices(double x, double y, double w, double h, const TextureArea& area = wholeTexture);
+
+/// Lets the mixer choose the first free channel.
+constexpr int firstFreeChannel = -1;
+
+/// Plays a sound once; silent if there is no sound or no free channel. A channel of its own is cut off.
+void playSound(Mix_Chunk* son, int channel = firstFreeChannel);
 
 /// Saves what the current OpenGL viewport shows as a BMP file. Returns 0, or -1 if it can't be written.
 int takeScreenshot(const char* filename);

@@ -1,42 +1,30 @@
 #include "sdlglutils.h"
 #include "standin/screen.h"
 
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
 
-/// A picture file whose pixels are given from the top row on, red, green, blue and alpha by byte.
-std::string picture(const std::string& name, int w, const std::vector<std::array<Uint8, 4>>& pixels) {
-    const std::string path = testing::TempDir() + name + ".tga";
-    std::ofstream file(path, std::ios::binary);
-    const int h = static_cast<int>(pixels.size()) / w;
-    for (const int byte : {0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, w, 0, h, 0, 32, 0x28})
-        file.put(static_cast<char>(byte));
-    for (const auto& [r, g, b, a] : pixels)
-        for (const Uint8 byte : {b, g, r, a})
-            file.put(static_cast<char>(byte));
-    return path;
-}
+using Bytes = std::vector<Uint8>;
 
-std::string read(const std::string& path) {
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
+/// An uncompressed picture file of `w` pixels a row, given from the top row on as blue, green, red and alpha.
+std::string picture(Uint8 w, const Bytes& pixels) {
+    const std::string path = testing::TempDir() + "picture.tga";
+    std::ofstream file(path, std::ios::binary);
+    const Bytes header{0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, w, 0, Uint8(pixels.size() / w / 4), 0, 32, 0x28};
+    for (const Bytes& part : {header, pixels})
+        file.write(reinterpret_cast<const char*>(part.data()), static_cast<std::streamsize>(part.size()));
+    return path;
 }
 
 } // namespace
 
 
-TEST(Textures, standUprightAndAreMissingOnlyForMissingFiles) {
-    const std::string file = picture("upright", 3, {{1}, {2}, {3}, {4, 0, 0, 9}, {5}, {6}});
-    for (const bool mipmaps : {true, false}) {
-        EXPECT_NE(loadTexture(file.c_str(), mipmaps), 0U);
-        EXPECT_EQ(standin::textureSize, (std::vector{3, 2}));
-        EXPECT_EQ(standin::texels[0], 4) << "the first texel is the bottom left pixel";
-        EXPECT_EQ(standin::texels[3], 9) << "alpha is the picture's own";
-        EXPECT_EQ(standin::texels[20], 3) << "the last texel is the top right pixel";
-    }
+TEST(Pictures, standUprightAndAreMissingOnlyForMissingFiles) {
+    const std::string file = picture(1, {1, 2, 3, 4, 5, 6, 7, 8});
+    EXPECT_NE(loadTexture(file.c_str(), true), loadTexture(file.c_str(), false));
+    EXPECT_EQ(standin::texels, (Bytes{7, 6, 5, 8, 3, 2, 1, 4})) << "from the bottom, with the picture's own alpha";
     standin::clear();
     EXPECT_EQ(loadTexture("nowhere.png", true), 0U);
     EXPECT_EQ(sharedTexture(file.c_str()), sharedTexture(file.c_str()));
@@ -44,44 +32,39 @@ TEST(Textures, standUprightAndAreMissingOnlyForMissingFiles) {
 }
 
 
-TEST(Screenshot, showsThePixelsOfTheWindowWhateverTheirAlpha) {
-    standin::texels = {10, 20, 30, 0, 0, 0, 0, 255, 0, 0, 0, 255, 40, 50, 60, 128};
+TEST(Pictures, ofTheScreenShowWhatTheWindowShowsWhateverItsAlpha) {
+    const Bytes window{10, 20, 30, 0, 0, 0, 0, 255, 0, 0, 0, 255, 40, 50, 60, 128};
+    standin::texels = window;
     const std::string file = testing::TempDir() + "shot.bmp";
     ASSERT_EQ(takeScreenshot(file.c_str()), 0);
     loadTexture(file.c_str(), false);
-    EXPECT_EQ(std::vector(standin::texels.begin(), standin::texels.begin() + 3),
-              (std::vector<Uint8>{10, 20, 30}));
-    EXPECT_EQ(std::vector(standin::texels.end() - 4, standin::texels.end() - 1),
-              (std::vector<Uint8>{40, 50, 60}));
+    EXPECT_TRUE(std::equal(window.begin(), window.begin() + 3, standin::texels.begin()));
+    EXPECT_TRUE(std::equal(window.begin() + 12, window.begin() + 15, standin::texels.begin() + 12));
     EXPECT_EQ(takeScreenshot("/nowhere/shot.bmp"), -1);
 }
 
 
-TEST(Cursor, isWrittenInThreeColoursAndReadBack) {
-    std::vector<std::array<Uint8, 4>> pixels(20, {200, 10, 10, 255});
-    pixels[0] = {10, 10, 10, 255};
-    pixels[1] = {10, 10, 10, 127};
+TEST(Pictures, becomeCursorsOfThreeColours) {
+    const std::string image = picture(3, {9, 9, 9, 255, 9, 9, 9, 127, 9, 9, 200, 255});
     const std::string file = testing::TempDir() + "cursor.xpm";
-    const std::string image = picture("cursor", 10, pixels);
     ASSERT_EQ(XPMFromImage(image.c_str(), file.c_str()), 0);
-    const std::string text = read(file);
-    EXPECT_EQ(text.find("const char *" + image.substr(0, image.find('.')) + "[] =\n\t{\n"), 0U);
-    EXPECT_NE(text.find("\t\t\" 16 2 3 1 \",\n"), std::string::npos);
-    EXPECT_NE(text.find("\t\t\"X ........      \",\n\t\t\"..........      \",\n\t\t\"0,0\"\n\t};\n"),
-              std::string::npos);
-    EXPECT_EQ(XPMFromImage("nowhere.png", "never.xpm"), -1);
-    EXPECT_FALSE(std::filesystem::exists("never.xpm"));
-
-    const char* xpm[] = {" 16 2 3 1 ",       "X c #000000",      ". c #ffffff", "  c None",
-                         "X ........     X", "..........      ", "0,0"};
+    std::ifstream text(file);
+    EXPECT_EQ(
+        std::string(std::istreambuf_iterator<char>(text), {}),
+        "const char *" + image.substr(0, image.find('.')) +
+            "[] =\n\t{\n\t\t/* width height num_colors chars_per_pixel */\n" +
+            "\t\t\" 8 1 3 1 \",\n\t\t/* colors */\n\t\t\"X c #000000\",\n\t\t\". c #ffffff\",\n\t\t\"  c None\",\n" +
+            "\t\t/* pixels */\n\t\t\"X .     \",\n\t\t\"0,0\"\n\t};\n");
+    EXPECT_EQ(XPMFromImage("nowhere.png", file.c_str()), -1);
+    const char* xpm[] = {" 16 2 3 1 ", "", "", "", "X ........     X", "..........      ", "3,1"};
     cursorFromXPM(xpm);
-    EXPECT_EQ(standin::calls.back(), "cursor 16 2 0 0");
-    EXPECT_EQ(standin::cursor, (std::vector<Uint8>{0x80, 0x01, 0, 0, 0xBF, 0xC1, 0xFF, 0xC0}));
+    EXPECT_EQ(standin::calls, standin::Words{"cursor 16 2 3 1"});
+    EXPECT_EQ(standin::texels, (Bytes{0x80, 0x01, 0, 0, 0xBF, 0xC1, 0xFF, 0xC0}));
 }
 
 
-TEST(Axes, areDrawnInTheirColoursAndLeaveNothingBehind) {
+TEST(Pictures, ofTheAxesLeaveNoColourBehind) {
     drawAxis(5);
-    EXPECT_EQ(standin::box(standin::drawn.back()), "0 0 5 5");
+    EXPECT_EQ(standin::drawing(), standin::Words{"- 6 0,0 5,0 0,0 0 0 1 1"});
     EXPECT_TRUE(standin::isAtRest());
 }

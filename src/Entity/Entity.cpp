@@ -2,10 +2,10 @@
 
 #include "Game/Game.h"
 
-Entity::Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate,
-               double collideBoxWidth, double collideBoxHeigth)
-    : position(position), _isSolide(_isSolide), collideBoxWidth(collideBoxWidth),
-      collideBoxHeigth(collideBoxHeigth), isActivate(isActivate) {}
+Entity::Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate, double collideBoxWidth,
+               double collideBoxHeigth)
+    : position(position), _isSolide(_isSolide), collideBoxWidth(collideBoxWidth), collideBoxHeigth(collideBoxHeigth),
+      isActivate(isActivate) {}
 
 
 bool Entity::isSolide() const { return _isSolide; }
@@ -21,6 +21,9 @@ Vecteur2D& Entity::getPos() { return position; }
 
 
 void Entity::setPosition(const Vecteur2D& vect) { position = vect; }
+
+
+double Entity::distanceTo(const Vecteur2D& point) const { return position.distance(point); }
 
 
 Vecteur2D Entity::getPosCase() const {
@@ -46,5 +49,14 @@ void Entity::setIsSolide(bool solide) { _isSolide = solide; }
 bool Entity::isColliding(Entity& entity) const {
     if (!isSolide() || !entity.isSolide() || &entity == this || !isActivate || !entity.getIsActivate())
         return false;
-    return collideBoxWidth + entity.getCollideBoxWidth() > entity.position.distance(position);
+    return collideBoxWidth + entity.getCollideBoxWidth() > entity.distanceTo(position);
+}
+
+
+bool Entity::advanceExplosion(const double& dt, double& elapsed, int& frame) {
+    constexpr double firstFrameHeld = 0.3;
+    elapsed += dt;
+    if (elapsed > firstFrameHeld)
+        ++frame;
+    return frame >= explosionFrames;
 }

@@ -43,6 +43,9 @@ public:
     Vecteur2D& getPos();
     void setPosition(const Vecteur2D& vect);
 
+    /// The distance to `point` in pixels; copies and allocates nothing.
+    double distanceTo(const Vecteur2D& point) const;
+
     /// The column and row of the cell that the position lies in.
     Vecteur2D getPosCase() const;
     /// Moves to the lower-left corner of the cell with the column and row `vect`.
@@ -63,6 +66,15 @@ private:
 
 protected:
     bool isActivate;
+
+    // What jets and grunts share when they burst: one sheet of eight frames, a row for each of them.
+
+    static constexpr const char* explosionPicture = "Assets/img/VorelDefense_explosions_64.png";
+    static constexpr int explosionFrames = 8;
+
+    /// Advances a burst by `dt` seconds: its first frame is held, the others pass with one step each.
+    /// `elapsed` are the seconds since the burst, `frame` is 8 once it is over. Returns whether it is over.
+    static bool advanceExplosion(const double& dt, double& elapsed, int& frame);
 };
 
 #endif

@@ -39,9 +39,7 @@ public:
     ~FixeSizeVecteur() override = default;
 
     /// Always raises VECTEUR_SIZE_INCORRECT: the dimension is fixed.
-    void addDim(double /*x*/) override {
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
-    }
+    void addDim(double /*x*/) override { throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT); }
 };
 
 #endif

@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr double pi = 3.141592653589793;
 constexpr double halfTurn = 180.0;
 constexpr double fullTurn = 360.0;
 

@@ -10,6 +10,8 @@
 /// Arithmetic on it gives plain vectors, which the checked constructor turns back into positions.
 class Vecteur2D : public FixeSizeVecteur<2> {
 public:
+    static constexpr double pi = 3.141592653589793;
+
     /// (0, 0)
     Vecteur2D();
     /// (value, value)

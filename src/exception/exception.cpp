@@ -13,14 +13,13 @@ Exception::Exception(int linePara, std::string fileNamePara, std::string functio
 
 Exception::Exception(int linePara, std::string fileNamePara, std::string functionNamePara,
                      ExceptionType exceptionTypePara)
-    : Exception(linePara, std::move(fileNamePara), std::move(functionNamePara), std::move(exceptionTypePara),
-                "") {}
+    : Exception(linePara, std::move(fileNamePara), std::move(functionNamePara), std::move(exceptionTypePara), "") {}
 
 
 std::string Exception::getExceptionText() const {
     std::ostringstream text;
-    text << "Exception " << exceptionType.getExceptionNumber() << ". in " << fileName << " at line " << line
-         << " : " << exceptionType.getDescription();
+    text << "Exception " << exceptionType.getExceptionNumber() << ". in " << fileName << " at line " << line << " : "
+         << exceptionType.getDescription();
     if (!additionalString.empty())
         text << ". With additional string : " << additionalString;
     return text.str();

@@ -9,10 +9,9 @@
 class Exception {
 public:
     /// Raised at line `linePara` of the file `fileNamePara`, in the function `functionNamePara`.
-    Exception(int linePara, std::string fileNamePara, std::string functionNamePara,
-              ExceptionType exceptionTypePara, std::string additionalString);
-    Exception(int linePara, std::string fileNamePara, std::string functionNamePara,
-              ExceptionType exceptionTypePara);
+    Exception(int linePara, std::string fileNamePara, std::string functionNamePara, ExceptionType exceptionTypePara,
+              std::string additionalString);
+    Exception(int linePara, std::string fileNamePara, std::string functionNamePara, ExceptionType exceptionTypePara);
 
     /// One line without its end: number, file, line and description of the error, then the additional text
     /// if there is one.

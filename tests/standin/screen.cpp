@@ -1,111 +1,117 @@
 #include "standin/screen.h"
+#include "standin/world.h"
 
 #include <SDL_image.h>
 #include <SDL_opengl.h>
 
-#include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstring>
 #include <dlfcn.h>
+#include <filesystem>
+#include <gtest/gtest.h>
 #include <map>
 #include <sstream>
 
 namespace standin {
 
-std::vector<Shape> drawn;
-std::vector<std::string> played;
-std::vector<std::string> calls;
-std::vector<std::string> loaded;
-std::vector<int> textureSize;
+Words played, calls, loaded;
 std::vector<unsigned char> texels;
-std::vector<unsigned char> cursor;
 std::vector<std::vector<SDL_Event>> session;
-Uint32 ticks = 0;
-std::function<Uint32(size_t)> work;
-std::function<void(size_t)> onFrame;
+std::function<Uint32(size_t)> work = [](size_t) { return 0; };
+std::function<void(size_t)> onFrame = [](size_t) {};
 
 namespace {
-
-using Colour = std::array<double, 4>;
 
 // x' = a x + c y + e, y' = b x + d y + f
 struct Matrix {
     double a = 1, b = 0, c = 0, d = 1, e = 0, f = 0;
-    Matrix operator*(const Matrix& m) const {
-        return {a * m.a + c * m.b, b * m.a + d * m.b,     a * m.c + c * m.d,
-                b * m.c + d * m.d, a * m.e + c * m.f + e, b * m.e + d * m.f + f};
+    void apply(const Matrix& m) {
+        *this = {a * m.a + c * m.b, b * m.a + d * m.b,     a * m.c + c * m.d,
+                 b * m.c + d * m.d, a * m.e + c * m.f + e, b * m.e + d * m.f + f};
     }
 };
 
-const Colour opaqueWhite{1, 1, 1, 1};
+struct Corner {
+    double x, y, s, t;
+};
+
+struct Batch {
+    std::string picture;
+    bool quads;
+    std::array<double, 4> colour;
+    std::vector<Corner> corners;
+};
+
+const std::array<double, 4> opaqueWhite{1, 1, 1, 1};
+
+std::vector<Batch> drawn;
 std::vector<Matrix> matrices(1);
-Colour colour = opaqueWhite;
+std::array<double, 4> colour = opaqueWhite;
+std::string opened;
+double s = 0, t = 0;
 bool texturing = false;
 GLuint bound = 0;
-double s = 0;
-double t = 0;
-std::vector<std::string> pictures{""};
+Words pictures{"no picture"};
 std::map<std::string, Mix_Chunk> sounds;
 std::map<const void*, std::string> names;
-std::string opened;
-size_t frame = 0;
-size_t event = 0;
+size_t frame = 0, event = 0;
+Uint32 ticks = 0;
 
-template <typename... Words>
-void say(const Words&... words) {
+template <typename... Values>
+std::string text(const char* separator, const Values&... values) {
     std::ostringstream line;
-    ((line << words << ' '), ...);
-    calls.push_back(line.str().substr(0, line.str().size() - 1));
+    ((line << separator << values), ...);
+    return line.str().substr(std::string(separator).size());
 }
 
-std::string extent(const Shape& shape, double Vertex::*x, double Vertex::*y) {
-    double low[2] = {1e9, 1e9};
-    double high[2] = {-1e9, -1e9};
-    for (const Vertex& vertex : shape.vertices)
-        for (int axis = 0; axis < 2; ++axis) {
-            low[axis] = std::min(low[axis], vertex.*(axis == 0 ? x : y));
-            high[axis] = std::max(high[axis], vertex.*(axis == 0 ? x : y));
-        }
-    std::ostringstream text;
-    text << low[0] << ' ' << low[1] << ' ' << high[0] - low[0] << ' ' << high[1] - low[1];
-    return text.str();
+template <typename... Values>
+int say(const Values&... values) {
+    calls.push_back(text(" ", values...));
+    return 0;
 }
 
+std::string stem(const char* file) { return std::filesystem::path(file).stem(); }
+
+bool isAsset(const std::string& file) { return file.rfind("Assets/", 0) == 0; }
+
+// The function of the library that the stand-in hides.
 template <typename Function>
-Function* real(const char* name) {
+Function* real(Function* /*standin*/, const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
 } // namespace
 
-void clear() {
-    for (auto* list : {&played, &calls, &loaded})
-        list->clear();
-    drawn.clear();
-    session.clear();
-    frame = event = ticks = 0;
-    work = nullptr;
-    onFrame = nullptr;
+Words drawing() {
+    Words lines;
+    for (const auto& [picture, quads, colour, corners] : drawn) {
+        const bool few = quads && corners.size() <= 40;
+        for (size_t first = 0; first < (few ? corners.size() : 1); first += 4) {
+            std::string line = few ? picture : text(" ", picture, corners.size());
+            for (size_t i = first; i < std::min(first + 3, corners.size()); ++i) {
+                line += " " + text(",", corners[i].x, corners[i].y);
+                line += picture == "-" ? "" : ">" + text(",", corners[i].s, corners[i].t);
+            }
+            lines.push_back(text(" ", line, colour[0], colour[1], colour[2], colour[3]));
+        }
+    }
+    return lines;
 }
+
+void clear() {
+    played.clear(), calls.clear(), loaded.clear(), drawn.clear();
+    bound = calendar = entered = 0;
+}
+
+// Every test begins with a window of its own.
+struct Fresh : testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo& /*test*/) override { clear(); }
+};
+const bool listening = (testing::UnitTest::GetInstance()->listeners().Append(new Fresh), true);
 
 bool isAtRest() { return !texturing && bound == 0 && colour == opaqueWhite && matrices.size() == 1; }
 
-std::vector<Shape> drawnWith(const std::string& picture) {
-    std::vector<Shape> found;
-    for (const Shape& shape : drawn)
-        if (shape.picture == "Assets/img/" + picture)
-            found.push_back(shape);
-    return found;
-}
-
-std::string box(const Shape& shape) { return extent(shape, &Vertex::x, &Vertex::y); }
-
-std::string textureBox(const Shape& shape) { return extent(shape, &Vertex::s, &Vertex::t); }
-
-Mix_Chunk* sound(const std::string& name) {
-    names[&sounds[name]] = name;
-    return &sounds[name];
-}
+Mix_Chunk* sound(const std::string& name) { return names[&sounds[name]] = name, &sounds[name]; }
 
 } // namespace standin
 
@@ -119,40 +125,30 @@ void glEnable(GLenum what) { texturing |= what == GL_TEXTURE_2D; }
 void glDisable(GLenum what) { texturing &= what != GL_TEXTURE_2D; }
 void glBindTexture(GLenum, GLuint texture) { bound = texture; }
 void glColor4d(GLdouble r, GLdouble g, GLdouble b, GLdouble a) { colour = {r, g, b, a}; }
-void glColor3ub(GLubyte r, GLubyte g, GLubyte b) { colour = {r / 255.0, g / 255.0, b / 255.0, 1}; }
-void glBegin(GLenum mode) { drawn.push_back({mode, texturing ? pictures[bound] : "", colour, {}}); }
+void glColor3ub(GLubyte r, GLubyte g, GLubyte b) { glColor4d(r / 255.0, g / 255.0, b / 255.0, 1); }
+void glBegin(GLenum mode) { drawn.push_back({texturing ? pictures[bound] : "-", mode == GL_QUADS, colour, {}}); }
 void glEnd() {}
-void glTexCoord2d(GLdouble s, GLdouble t) {
-    standin::s = s;
-    standin::t = t;
-}
+void glTexCoord2d(GLdouble left, GLdouble low) { s = left, t = low; }
 void glVertex2d(GLdouble x, GLdouble y) {
-    const Matrix m = matrices.back() * Matrix{1, 0, 0, 1, x, y};
-    drawn.back().vertices.push_back({m.e, m.f, s, t});
+    Matrix m = matrices.back();
+    m.apply({1, 0, 0, 1, x, y});
+    drawn.back().colour = colour;
+    drawn.back().corners.push_back({m.e, m.f, s, t});
 }
 void glVertex3i(GLint x, GLint y, GLint) { glVertex2d(x, y); }
 void glPushMatrix() { matrices.push_back(matrices.back()); }
 void glPopMatrix() { matrices.pop_back(); }
-void glTranslated(GLdouble x, GLdouble y, GLdouble) {
-    matrices.back() = matrices.back() * Matrix{1, 0, 0, 1, x, y};
-}
-void glScaled(GLdouble x, GLdouble y, GLdouble) {
-    matrices.back() = matrices.back() * Matrix{x, 0, 0, y, 0, 0};
-}
+void glTranslated(GLdouble x, GLdouble y, GLdouble) { matrices.back().apply({1, 0, 0, 1, x, y}); }
+void glScaled(GLdouble x, GLdouble y, GLdouble) { matrices.back().apply({x, 0, 0, y, 0, 0}); }
 void glRotated(GLdouble degrees, GLdouble, GLdouble, GLdouble) {
-    const double angle = degrees * M_PI / 180;
-    matrices.back() =
-        matrices.back() * Matrix{std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0};
+    const double a = degrees * M_PI / 180;
+    matrices.back().apply({std::cos(a), std::sin(a), -std::sin(a), std::cos(a), 0, 0});
 }
-void glMatrixMode(GLenum mode) { say(mode == GL_PROJECTION ? "projection" : "modelview"); }
-void glLoadIdentity() { matrices = std::vector<Matrix>(1); }
-void gluOrtho2D(GLdouble left, GLdouble right, GLdouble bottom, GLdouble top) {
-    say("ortho", left, right, bottom, top);
-}
+void glMatrixMode(GLenum) {}
+void glLoadIdentity() { matrices.assign(1, {}); }
+void gluOrtho2D(GLdouble left, GLdouble right, GLdouble low, GLdouble high) { say("ortho", left, right, low, high); }
 void glClear(GLbitfield) { drawn.clear(); }
-void glBlendFunc(GLenum source, GLenum target) {
-    say("blend", source == GL_SRC_ALPHA, target == GL_ONE_MINUS_SRC_ALPHA);
-}
+void glBlendFunc(GLenum from, GLenum to) { say("blend", from == GL_SRC_ALPHA, to == GL_ONE_MINUS_SRC_ALPHA); }
 void glFlush() {}
 void glLineWidth(GLfloat) {}
 void glPushAttrib(GLbitfield) {}
@@ -163,105 +159,81 @@ void glGenTextures(GLsizei, GLuint* name) {
 }
 void glTexParameteri(GLenum, GLenum, GLint) {}
 void glTexImage2D(GLenum, GLint, GLint, GLsizei w, GLsizei h, GLint, GLenum, GLenum, const void* pixels) {
-    textureSize = {w, h};
-    const auto* bytes = static_cast<const unsigned char*>(pixels);
-    texels.assign(bytes, bytes + 4L * w * h);
+    texels.assign(static_cast<const Uint8*>(pixels), static_cast<const Uint8*>(pixels) + 4L * w * h);
 }
-GLint gluBuild2DMipmaps(GLenum target, GLint components, GLsizei w, GLsizei h, GLenum format, GLenum type,
-                        const void* pixels) {
-    glTexImage2D(target, 0, components, w, h, 0, format, type, pixels);
-    return 0;
+GLint gluBuild2DMipmaps(GLenum, GLint, GLsizei w, GLsizei h, GLenum, GLenum, const void* pixels) {
+    return glTexImage2D(0, 0, 0, w, h, 0, 0, 0, pixels), 0;
 }
-void glGetIntegerv(GLenum, GLint* viewport) {
-    const GLint size[4] = {0, 0, 2, 2};
-    std::copy(size, size + 4, viewport);
-}
-void glReadPixels(GLint, GLint, GLsizei w, GLsizei h, GLenum, GLenum, void* pixels) {
-    std::copy(texels.begin(), texels.begin() + 4L * w * h, static_cast<unsigned char*>(pixels));
+void glGetIntegerv(GLenum, GLint* viewport) { viewport[0] = viewport[1] = 0, viewport[2] = viewport[3] = 2; }
+void glReadPixels(GLint, GLint, GLsizei, GLsizei, GLenum, GLenum, void* pixels) {
+    std::copy(texels.begin(), texels.end(), static_cast<Uint8*>(pixels));
 }
 
 // The mixer
 
-int Mix_OpenAudio(int rate, Uint16 format, int channels, int chunk) {
-    say("open audio", rate, format, channels, chunk);
-    return 0;
+int Mix_OpenAudio(int rate, Uint16 format, int sides, int chunk) {
+    return say("open audio", rate, format, sides, chunk);
 }
-int Mix_AllocateChannels(int count) { return say("channels", count), count; }
+int Mix_AllocateChannels(int count) { return say("channels", count); }
 Mix_Music* Mix_LoadMUS(const char* file) {
-    say("load", file);
-    return reinterpret_cast<Mix_Music*>(sound(file));
+    return say("load", stem(file)), reinterpret_cast<Mix_Music*>(sound(stem(file)));
 }
-Mix_Chunk* Mix_LoadWAV_RW(SDL_RWops*, int) {
-    say("load", opened);
-    return sound(opened);
-}
-int Mix_PlayMusic(Mix_Music* music, int loops) { return say("play", names[music], loops), 0; }
-int Mix_FadeInMusicPos(Mix_Music* music, int loops, int ms, double) {
-    return say("fade in", names[music], loops, ms), 0;
-}
-int Mix_VolumeMusic(int volume) { return say("music volume", volume), 0; }
-int Mix_Volume(int channel, int volume) { return say("volume", channel, volume), 0; }
+Mix_Chunk* Mix_LoadWAV_RW(SDL_RWops*, int) { return say("load", stem(opened.c_str())), sound(stem(opened.c_str())); }
+int Mix_PlayMusic(Mix_Music* music, int loops) { return say("play", names[music], loops); }
+int Mix_FadeInMusicPos(Mix_Music* music, int loops, int ms, double) { return say("fade in", names[music], loops, ms); }
+int Mix_VolumeMusic(int volume) { return say("music volume", volume); }
+int Mix_Volume(int channel, int volume) { return say("volume", channel, volume); }
 int Mix_PlayChannelTimed(int channel, Mix_Chunk* chunk, int, int) {
-    played.push_back(names[chunk] + "@" + std::to_string(channel));
-    return 0;
+    return played.push_back(text("@", names[chunk], channel)), 0;
 }
 void Mix_FreeChunk(Mix_Chunk* chunk) { say("free", names[chunk]); }
 void Mix_FreeMusic(Mix_Music* music) { say("free", names[music]); }
 void Mix_CloseAudio() { say("close audio"); }
 
-// SDL: the window and the clock are ours; surfaces and files are the real ones, but for the game's own
-// assets, which are any small picture and any sound.
+// SDL: the window and the clock are ours; surfaces and files are the real ones, but for the game's own assets,
+// which are any small picture and any sound.
 
 SDL_Surface* IMG_Load(const char* file) {
-    if (std::strncmp(file, "Assets/", 7) == 0) {
-        loaded.emplace_back(file);
-        return SDL_CreateRGBSurface(SDL_SWSURFACE, 2, 2, 32, 0xFF, 0xFF00, 0xFF0000, 0xFF000000);
-    }
-    SDL_Surface* surface = real<SDL_Surface*(const char*)>("IMG_Load")(file);
+    SDL_Surface* surface = isAsset(file) ? SDL_CreateRGBSurface(0, 2, 2, 32, 0xFF, 0xFF00, 0xFF0000, 0xFF000000)
+                                         : real(IMG_Load, "IMG_Load")(file);
     if (surface != nullptr)
-        loaded.emplace_back(file);
+        loaded.push_back(stem(file));
     return surface;
 }
 SDL_RWops* SDL_RWFromFile(const char* file, const char* mode) {
     opened = file;
-    return opened.rfind("Assets/", 0) == 0
-               ? nullptr
-               : real<SDL_RWops*(const char*, const char*)>("SDL_RWFromFile")(file, mode);
+    return isAsset(file) ? nullptr : real(SDL_RWFromFile, "SDL_RWFromFile")(file, mode);
 }
 SDL_Cursor* SDL_CreateCursor(Uint8* data, Uint8* mask, int w, int h, int hot_x, int hot_y) {
-    cursor.assign(data, data + w / 8 * h);
-    cursor.insert(cursor.end(), mask, mask + w / 8 * h);
-    say("cursor", w, h, hot_x, hot_y);
-    return nullptr;
+    texels.assign(data, data + w / 8 * h);
+    texels.insert(texels.end(), mask, mask + w / 8 * h);
+    return say("cursor", w, h, hot_x, hot_y), nullptr;
 }
-int SDL_Init(Uint32 what) { return say("init", what), 0; }
+int SDL_Init(Uint32 what) {
+    frame = event = ticks = 0;
+    return say("init", what == SDL_INIT_VIDEO);
+}
 void SDL_Quit() { say("quit"); }
 void SDL_WM_SetCaption(const char* title, const char*) { say("caption", title); }
 SDL_Surface* SDL_SetVideoMode(int w, int h, int bits, Uint32 flags) {
-    say("video", w, h, bits, flags == SDL_OPENGL);
-    return nullptr;
+    return say("video", w, h, bits, flags == SDL_OPENGL), nullptr;
 }
 int SDL_PollEvent(SDL_Event* next) {
-    if (frame >= session.size()) {
+    if (frame >= session.size())
         next->type = SDL_QUIT;
-        return event++ == 0;
-    }
-    if (event >= session[frame].size())
-        return 0;
-    *next = session[frame][event++];
-    return 1;
+    else if (event < session[frame].size())
+        *next = session[frame][event];
+    return event++ < (frame < session.size() ? session[frame].size() : 1);
 }
 void SDL_GL_SwapBuffers() {
-    if (onFrame)
-        onFrame(frame);
-    ticks += work ? work(frame) : 0;
-    ++frame;
+    onFrame(frame);
+    ticks += work(frame++);
     event = 0;
 }
 Uint32 SDL_GetTicks() { return ticks; }
 void SDL_Delay(Uint32 ms) {
-    say("delay", ms);
     ticks += ms;
+    say("delay", ms);
 }
 
 } // extern "C"

@@ -7,17 +7,14 @@
 namespace standin {
 
 long calendar = 0;
-long long nanoseconds = 0;
+long long nanoseconds = fromLeft;
+int entered = 0;
 std::deque<int> dice;
 
 } // namespace standin
 
 
-extern "C" time_t time(time_t* result) noexcept {
-    if (result != nullptr)
-        *result = standin::calendar;
-    return standin::calendar;
-}
+extern "C" time_t time(time_t* /*result*/) noexcept { return standin::calendar; }
 
 
 extern "C" int rand() noexcept {
@@ -25,11 +22,10 @@ extern "C" int rand() noexcept {
     if (standin::dice.empty())
         return static_cast<int>((sequence = sequence * 1103515245U + 12345U) >> 16 & 0x7FFF);
     const int roll = standin::dice.front();
-    standin::dice.pop_front();
-    return roll;
+    return standin::dice.pop_front(), roll;
 }
 
 
 std::chrono::system_clock::time_point std::chrono::system_clock::now() noexcept {
-    return time_point(std::chrono::nanoseconds(standin::nanoseconds));
+    return ++standin::entered, time_point(std::chrono::nanoseconds(standin::nanoseconds));
 }

@@ -1,0 +1,98 @@
+#include "Entity/Beam.h"
+
+#include "Game/Game.h"
+#include "sdlglutils.h"
+
+Mix_Chunk* Beam::son_splash = nullptr;
+
+
+Beam::Beam(const double& width, const double& speed, const double& range, const Vecteur2D& positionOrigine,
+           const double& damage, const double& length, const Vecteur2D& dir)
+    : Entity(positionOrigine, true, true, width, length), length(length), width(width), range(range), speed(speed),
+      origine(positionOrigine), damage(damage), isActive(true),
+      m_texture(sharedTexture("Assets/img/VorelDefence_projectile.PNG")), m_explosion(sharedTexture(explosionPicture)),
+      sprite(0), explose(false), delta_temps(0.0), dir(dir) {}
+
+
+Beam* Beam::copy() const { return new Beam(*this); }
+
+
+bool Beam::getIsActive() const { return isActive && distanceTo(origine) <= range; }
+
+
+bool Beam::isNeedToBeDelete() const { return !getIsActive(); }
+
+
+bool Beam::isSolide() const { return Entity::isSolide() && getIsActive(); }
+
+
+bool Beam::getExplose() const { return explose; }
+
+
+double Beam::getDamage() const { return damage; }
+
+
+double Beam::getLength() const { return length; }
+
+
+double Beam::getRange() const { return range; }
+
+
+double Beam::getWidth() const { return width; }
+
+
+void Beam::update(const double& dt, const Game& /*game*/) {
+    if (getIsActive() && !explose)
+        getPos() += dir.normalise() * dt * speed;
+
+    if (explose && advanceExplosion(dt, delta_temps, sprite))
+        isActive = false;
+}
+
+
+void Beam::draw(const double& /*dt*/) const {
+    if (!getIsActive())
+        return;
+
+    const Vecteur2D pos = getPos();
+    const double x = pos[0];
+    const double y = pos[1];
+    const double t = 0.3;
+    const double tx = Game::largeur_case;
+    const double ty = Game::hauteur_case;
+
+    // The picture points to the right; turn it to the direction of flight.
+    glPushMatrix();
+    const double angle = dir.getAngle();
+    glTranslated(x + width / 2, y + length / 2, 0);
+    glRotated(angle, 0, 0, 1);
+    glTranslated(-x - width / 2, -y - length / 2, 0);
+
+    if (explose) {
+        const double f = 4.0;
+        const double cx = static_cast<double>(sprite) / explosionFrames;
+        drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / explosionFrames, 0.5});
+    } else {
+        drawTexturedQuad(m_texture, x, y, t * tx, t * ty);
+    }
+
+    glColor4d(1, 1, 1, 1);
+    glPopMatrix();
+}
+
+
+void Beam::collide(Entity* entity) { entity->onCollideBeam(this); }
+
+
+void Beam::onCollideBeam(Beam* /*beam*/) {}
+
+
+// The grunt takes the damage itself; the jet only bursts, once.
+void Beam::onCollideEnnemi(Ennemi* /*entity*/) {
+    if (!explose)
+        playSound(son_splash);
+    explose = true;
+}
+
+
+void Beam::onCollideTower(Tower* /*tower*/) {}

@@ -1,0 +1,58 @@
+#ifndef BEAM_H
+#define BEAM_H
+
+#include "Entity/Entity.h"
+
+#include <SDL_mixer.h>
+#include <SDL_opengl.h>
+
+/// A water jet. It flies straight from its turret until it passes its range and vanishes, or touches grunts:
+/// then it hurts each of them once, bursts, and stands as a splash for a moment. Its turret owns it.
+class Beam : public Entity {
+public:
+    /// From `positionOrigine` in the direction `dir`, whose length does not matter. `width` (the collision
+    /// radius), `length` and `range` are pixels, `speed` is pixels per second, `damage` is health.
+    Beam(const double& width, const double& speed, const double& range, const Vecteur2D& positionOrigine,
+         const double& damage, const double& length, const Vecteur2D& dir);
+    Beam* copy() const override;
+
+    /// Not beyond its range, and its splash is not over.
+    bool getIsActive() const;
+    /// The turret deletes it at its next step.
+    bool isNeedToBeDelete() const;
+    bool isSolide() const override;
+    /// Has burst, and so hurts nobody any more.
+    bool getExplose() const;
+    double getDamage() const;
+    double getLength() const;
+    double getRange() const;
+    double getWidth() const;
+
+    void update(const double& dt, const Game& game) override;
+    void draw(const double& dt) const override;
+
+    void collide(Entity* entity) override;
+    void onCollideBeam(Beam* beam) override;
+    void onCollideEnnemi(Ennemi* entity) override;
+    void onCollideTower(Tower* tower) override;
+
+    /// The splash; the main loop owns it.
+    static Mix_Chunk* son_splash;
+
+private:
+    double length;
+    double width;
+    double range;
+    double speed;
+    Vecteur2D origine;
+    double damage;
+    bool isActive;
+    GLuint m_texture;
+    GLuint m_explosion;
+    int sprite;
+    bool explose;
+    double delta_temps;
+    Vecteur2D dir;
+};
+
+#endif

@@ -1,0 +1,145 @@
+#include "Entity/Ennemi.h"
+
+#include "Entity/Beam.h"
+#include "Game/Game.h"
+#include "sdlglutils.h"
+
+#include <cstdlib>
+
+namespace {
+
+// The sheet of walking grunts: a column for each frame, a row for each facing, from the top.
+constexpr int walkFrames = 4;
+constexpr int facings = 4;
+enum Facing { right, up, left, down };
+constexpr double secondsPerWalkFrame = 0.1666;
+
+} // namespace
+
+
+Mix_Chunk* Ennemi::son_explosion = nullptr;
+Mix_Chunk* Ennemi::son_grunt = nullptr;
+
+
+Ennemi::Ennemi(const Vecteur2D& vect, const double& health, const double& speed, const double& polution,
+               const double& w, const double& h, const std::string& name)
+    : Entity(vect, true, true, w, h), m_texture(sharedTexture("Assets/img/VorelDefense_grunts.PNG")), direction(right),
+      n_sprite(0), delta_temps(0.0), m_explosion(sharedTexture(explosionPicture)), e_sprite(0), explose(false),
+      e_delta_temps(0.0), glitch(false), health(health), speed(speed), polution(polution), name(name) {}
+
+
+Ennemi* Ennemi::copy() const { return new Ennemi(*this); }
+
+
+bool Ennemi::isAlive() const { return health > 0.0; }
+
+
+void Ennemi::removeHealth(const double& healthMinus) {
+    health -= healthMinus;
+    if (isAlive())
+        return;
+
+    // About one death in five is drawn wrong, on purpose.
+    playSound(son_explosion);
+    playSound(son_grunt);
+    glitch = rand() % 100 > 80;
+    explose = true;
+}
+
+
+double Ennemi::getHealth() const { return health; }
+
+
+void Ennemi::setHealth(double newHealth) { health = newHealth; }
+
+
+double Ennemi::getSpeed() const { return speed; }
+
+
+void Ennemi::setSpeed(double newSpeed) { speed = newSpeed; }
+
+
+double Ennemi::getPolution() const { return polution; }
+
+
+void Ennemi::setPolution(double newPolution) { polution = newPolution; }
+
+
+void Ennemi::update(const double& dt, const Game& game) {
+    const Vecteur2D tower = game.getTower().getPos();
+
+    // Nothing stops a grunt, not even its own explosion; the collision with the tower takes it away.
+    if (distanceTo(tower) != 0.0)
+        getPos() += (tower - getPos()).normalise() * speed * dt;
+
+    delta_temps += dt;
+    if (delta_temps >= secondsPerWalkFrame) {
+        delta_temps = 0.0;
+        n_sprite = (n_sprite + 1) % walkFrames;
+    }
+
+    if (explose && advanceExplosion(dt, e_delta_temps, e_sprite))
+        isActivate = false;
+
+    face(tower);
+}
+
+
+void Ennemi::face(const Vecteur2D& tower) {
+    const Vecteur2D dir(tower - getPos());
+    const double alpha = Vecteur2D::normaliserAngle(dir.getAngle());
+    if (-45 < alpha && alpha < 45)
+        direction = right;
+    else if (45 < alpha && alpha < 135)
+        direction = up;
+    else if (alpha > 135 || alpha < -135)
+        direction = left;
+    else
+        direction = down;
+}
+
+
+void Ennemi::draw(const double& /*dt*/) const {
+    if (!isActivate)
+        return;
+
+    const Vecteur2D pos = getPos();
+    const double x = pos[0];
+    const double y = pos[1];
+    const double t = 1.0;
+    const double tx = Game::largeur_case;
+    const double ty = Game::hauteur_case;
+
+    glPushMatrix();
+    if (!explose) {
+        // The margins keep the neighbouring frames of the sheet out.
+        const double cx = static_cast<double>(n_sprite) / walkFrames;
+        const double r = 1 - static_cast<double>(direction) / facings;
+        glTranslated(-t * tx / 2, -t * ty / 2, 0);
+        drawTexturedQuad(m_texture, x, y, t * tx, t * ty, {cx + 0.001, r - 0.25 + 0.01, cx + 0.25 - 0.001, r - 0.003});
+    } else {
+        // A glitch cuts the sheet of walking grunts as if it were the explosion's.
+        const double f = glitch ? 1.0 : 3.0;
+        const double cx = static_cast<double>(e_sprite) / explosionFrames;
+        glTranslated(-f * t * tx / 2, -f * t * ty / 2, 0);
+        drawTexturedQuad(glitch ? m_texture : m_explosion, x, y, f * t * tx, f * t * ty,
+                         {cx, 0.5, cx + 1.0 / explosionFrames, 1.0});
+    }
+    glColor4d(1, 1, 1, 1);
+    glPopMatrix();
+}
+
+
+void Ennemi::collide(Entity* entity) { entity->onCollideEnnemi(this); }
+
+
+void Ennemi::onCollideBeam(Beam* entity) {
+    if (!entity->getExplose())
+        removeHealth(entity->getDamage());
+}
+
+
+void Ennemi::onCollideEnnemi(Ennemi* /*entity*/) {}
+
+
+void Ennemi::onCollideTower(Tower* /*entity*/) { isActivate = false; }

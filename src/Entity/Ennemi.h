@@ -1,0 +1,64 @@
+#ifndef ENNEMI_H
+#define ENNEMI_H
+
+#include "Entity/Entity.h"
+
+#include <SDL_mixer.h>
+#include <SDL_opengl.h>
+
+#include <string>
+
+/// A grunt. It walks straight to the tower; jets take its health, and without health it explodes, still
+/// walking, and is gone. A grunt that touches the tower, exploding or not, is gone at once and leaves its
+/// pollution there.
+class Ennemi : public Entity {
+public:
+    /// At `vect`, with `health` in hit points, `speed` in pixels per second, `polution` in units of water,
+    /// the collision radius `w` in pixels, and a name that nobody displays.
+    Ennemi(const Vecteur2D& vect, const double& health, const double& speed, const double& polution, const double& w,
+           const double& h, const std::string& name);
+    Ennemi* copy() const override;
+
+    bool isAlive() const;
+    /// Takes health off. At 0 or below the grunt cries and explodes, and does so at every further hit.
+    void removeHealth(const double& healthMinus);
+
+    double getHealth() const;
+    void setHealth(double newHealth);
+    double getSpeed() const;
+    void setSpeed(double newSpeed);
+    double getPolution() const;
+    void setPolution(double newPolution);
+
+    void update(const double& dt, const Game& game) override;
+    void draw(const double& dt) const override;
+
+    void collide(Entity* entity) override;
+    void onCollideBeam(Beam* entity) override;
+    void onCollideEnnemi(Ennemi* entity) override;
+    void onCollideTower(Tower* entity) override;
+
+    /// The sounds of its death; the main loop owns them.
+    static Mix_Chunk* son_explosion;
+    static Mix_Chunk* son_grunt;
+
+private:
+    /// Turns towards the tower at `tower`.
+    void face(const Vecteur2D& tower);
+
+    GLuint m_texture;
+    int direction;
+    int n_sprite;
+    double delta_temps;
+    GLuint m_explosion;
+    int e_sprite;
+    bool explose;
+    double e_delta_temps;
+    bool glitch;
+    double health;
+    double speed;
+    double polution;
+    std::string name;
+};
+
+#endif

@@ -1,0 +1,67 @@
+#ifndef WEAPON_H
+#define WEAPON_H
+
+#include "Entity/Entity.h"
+
+#include <SDL_mixer.h>
+#include <SDL_opengl.h>
+
+#include <string>
+#include <vector>
+
+/// A water turret. It never collides; told to fire, it pays one jet with water from the tower, if it is
+/// ready, the target is in range and there is enough pure water. It owns its jets in flight.
+class Weapon : public Entity {
+public:
+    /// Centred on `vect`. A shot takes `waterConsume` units of water and is followed by `shotCoolldowmnTime`
+    /// seconds of rest; a target may be `radius` pixels away. `beamRadius` (range), `beamLength` and
+    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health go to the jets. `path`
+    /// is not used: all turrets look alike.
+    Weapon(const Vecteur2D& vect, const std::string& path, const double& waterConsume, const double& radius,
+           const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
+           const double& beamWidth, const double& beamSpeed);
+    /// A turret like `w`, with its rest to wait, but without jets: those stay with `w`.
+    Weapon(const Weapon& w);
+    Weapon& operator=(const Weapon& w) = delete;
+    ~Weapon() override;
+    Weapon* copy() const override;
+
+    /// Fires one jet at `pos`, paid from `tower`, if allowed. Returns whether it fired.
+    bool shoot(Vecteur2D pos, Tower& tower);
+
+    /// The jets in flight; never null after an update.
+    const std::vector<Beam*>& getBeams() const;
+    double getRadius() const;
+    double getBeamRadius() const;
+    double getWaterConsume() const;
+    double getDamage() const;
+
+    void update(const double& time, const Game& game) override;
+    void draw(const double& time) const override;
+
+    void collide(Entity* entity) override;
+    void onCollideBeam(Beam* beam) override;
+    void onCollideEnnemi(Ennemi* ennemi) override;
+    void onCollideTower(Tower* tower) override;
+
+    /// The price of a turret in the shop.
+    static constexpr int price = 1000;
+    /// The sounds of a shot and of a turret being built; the main loop owns them.
+    static Mix_Chunk* son_stream;
+    static Mix_Chunk* son_construct;
+
+private:
+    GLuint m_texture;
+    double waterConsume;
+    double radius;
+    double beamRadius;
+    double damage;
+    const double beamWidth;
+    double shotCoolldowmnTime;
+    std::vector<Beam*> beams;
+    double cooldownStatue;
+    double beamLength;
+    double beamSpeed;
+};
+
+#endif

@@ -1,0 +1,128 @@
+#include "Game/Game.h"
+
+#include "openglDrawCircle.h"
+#include "sdlglutils.h"
+
+#include <cmath>
+
+namespace {
+
+// The pie chart of the round-end panel.
+constexpr int pressision = 40;
+constexpr double rad = 50.0;
+constexpr double xPosChart = 745.0;
+constexpr double yPosChart = 376.0;
+constexpr double xSkinDiff = 20.0;
+constexpr double ySkinDiff = 5.0;
+
+// A slice of the pie around (`x`, `y`), between two of the points on its rim.
+void drawSlice(GLuint texture, double x, double y, int first, int last) {
+    glEnable(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glBegin(GL_TRIANGLE_FAN);
+    glTexCoord2d(0.5, 0.5);
+    glVertex2d(x, y);
+    for (int i = first; i <= last; ++i) {
+        const double a = i * (2 * Vecteur2D::pi) / pressision;
+        glTexCoord2d((std::cos(a) + 1) / 2, (std::sin(a) + 1) / 2);
+        glVertex2d(x + std::cos(a) * rad, y + std::sin(a) * rad);
+    }
+    glEnd();
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glDisable(GL_TEXTURE_2D);
+}
+
+} // namespace
+
+
+void Game::draw(const double& dt, const double& x, const double& y) const {
+    if (isInTitleScreen) {
+        drawTitleScreen();
+        return;
+    }
+
+    drawSol(dt);
+    m_tower.draw(dt);
+    m_waves[currentWave].draw(dt);
+
+    const Vecteur2D mousePos(x, y);
+    const int mouseX = static_cast<int>(x);
+    const int mouseY = static_cast<int>(y);
+    if (tourelleActivite())
+        dessinerTourelleGrisee(mouseX, mouseY);
+
+    constexpr double waeponRadiusForMouse = 40.0;
+    for (const Weapon* w : weapons) {
+        w->draw(dt);
+        if (w->distanceTo(mousePos) < waeponRadiusForMouse && isPlaying())
+            openglDrawCircle(w->getPos(), w->getRadius(), 40);
+    }
+
+    drawGUI(dt, mouseX, mouseY);
+
+    if (hasLoos())
+        drawLoosScreen();
+    else if (isInBetwenWave)
+        drawRoudEnd(dt, x, y);
+}
+
+
+void Game::drawTitleScreen() const { drawTexturedQuad(m_texture_Title_screen, 0, 0, width, heigth); }
+
+
+void Game::drawLoosScreen() const {
+    constexpr double secondsToFadeIn = 10.0;
+    glColor4d(1, 1, 1, timeLoos / secondsToFadeIn);
+    drawTexturedQuad(m_texture_loos_screen, 0, 256, width, 256);
+    drawWavePanel();
+    glColor4d(1, 1, 1, 1);
+}
+
+
+void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*/) const {
+    const double e = TIME_BETTWENN_WAVE - timeBeforeNextWave;
+    constexpr double fadesOut = timeApearRoundMenu + timeStayRoundMenu;
+    double alpha = 1.0;
+    if (e < timeApearRoundMenu)
+        alpha = e / timeApearRoundMenu;
+    else if (e >= fadesOut)
+        alpha = 1 - (e - fadesOut) / timeDisapearRoundMenu;
+    glColor4d(1, 1, 1, alpha);
+
+    // The window shows the middle three quarters of the square picture.
+    drawTexturedQuad(m_texture_welldone, 0, 0, width, heigth, {0.0, 0.125, 1.0, 0.875});
+
+    const double pollution = m_tower.getPollution();
+    const double ratio = waterDepart + pollution != 0 ? pollution / (pollution + waterDepart) : 0.0;
+    const int boundary = static_cast<int>(ratio * pressision);
+    drawSlice(m_texture_Piechart_evil, xPosChart, yPosChart, 0, boundary);
+    drawSlice(m_texture_Piechart_water, xPosChart, yPosChart, boundary, pressision);
+    drawSlice(m_texture_Piechart_skin, xPosChart + xSkinDiff, yPosChart + ySkinDiff, 0, 1);
+
+    glPushMatrix();
+    glScaled(2, 2, 1);
+    glTranslated(-670, -550, 0);
+    afficherArgentGain(dt);
+    glPopMatrix();
+
+    drawWavePanel();
+    glColor4d(1, 1, 1, 1);
+}
+
+
+void Game::drawWavePanel() const {
+    glPushMatrix();
+    glTranslated(150, 500, 0);
+    glEnable(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, m_texture_wave);
+    glBegin(GL_QUADS);
+    clockwiseQuadVertices(0, 0, 512, 256);
+    glEnd();
+
+    glPushMatrix();
+    glTranslated(500, 45, 0);
+    glScaled(2, 2, 0);
+    drawDigits(m_texture_argent, static_cast<int>(currentWave) + 1, 2, 32, 64);
+    glPopMatrix();
+    glPopMatrix();
+}

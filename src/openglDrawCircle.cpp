@@ -1,0 +1,19 @@
+#include "openglDrawCircle.h"
+
+#include <SDL_opengl.h>
+
+#include <cmath>
+
+void openglDrawCircle(const Vecteur2D& vect, const double& radius, const unsigned int& pressison) {
+    glPushMatrix();
+    glColor4d(1, 0, 0, 0.1);
+    glBegin(GL_POLYGON);
+    for (unsigned int i = 0; i < pressison; ++i) {
+        const double a = i * (2 * Vecteur2D::pi) / pressison;
+        glVertex2d(vect[0] + std::cos(a) * radius, vect[1] + std::sin(a) * radius);
+    }
+    glVertex2d(vect[0] + radius, vect[1]);
+    glEnd();
+    glColor4d(1, 1, 1, 1);
+    glPopMatrix();
+}
