@@ -12,13 +12,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <initializer_list>
 #include <iostream>
 
 namespace {
 
 constexpr int tailleEcranX = 1024;
 constexpr int tailleEcranY = 768;
-constexpr int channels = 10;
+constexpr int CHANNELS = 10;
 
 // SDL counts the rows of the window from its top, the game from its bottom.
 int upwards(int mouseY) { return tailleEcranY - mouseY; }
@@ -31,7 +32,7 @@ Mix_Chunk* loadSound(const char* path) { return Mix_LoadWAV_RW(SDL_RWFromFile(pa
 void openAudio() {
     if (Mix_OpenAudio(44100, AUDIO_S16LSB, 2, 1024) == -1)
         std::printf("%s", SDL_GetError());
-    Mix_AllocateChannels(channels);
+    Mix_AllocateChannels(CHANNELS);
 }
 
 
@@ -61,18 +62,22 @@ void freeSounds() {
 
 
 void startTitleMusic() {
-    constexpr int musicVolume = 12;
-    constexpr int effectsVolume = 10;
+    constexpr int MUSIC_VOLUME = 12;
     Mix_PlayMusic(Game::son_start, -1);
-    Mix_VolumeMusic(musicVolume);
-    for (int channel = 0; channel < channels; ++channel)
-        Mix_Volume(channel, effectsVolume);
+    Mix_VolumeMusic(MUSIC_VOLUME);
+}
+
+
+void setEffectsVolume() {
+    constexpr int EFFECTS_VOLUME = 10;
+    for (int channel = 0; channel < CHANNELS; ++channel)
+        Mix_Volume(channel, EFFECTS_VOLUME);
 }
 
 
 void startGameMusic(Mix_Music* musique) {
-    constexpr int fadeInMilliseconds = 3000;
-    Mix_FadeInMusicPos(musique, -1, fadeInMilliseconds, 0.0);
+    constexpr int FADE_IN_MILLISECONDS = 3000;
+    Mix_FadeInMusicPos(musique, -1, FADE_IN_MILLISECONDS, 0.0);
 }
 
 
@@ -121,10 +126,10 @@ void onMouseButtonDown(const SDL_MouseButtonEvent& button, Game& game, Mix_Music
     if (button.button != SDL_BUTTON_LEFT)
         return;
 
-    // The remaining time never exceeds the phase's 15 seconds, so the click counts from its beginning.
-    constexpr double latestClick = 25.0;
+    // Counted from ten seconds more than the phase has, so a click is taken at any moment of it.
+    constexpr double CLICK_CLOCK = 25.0;
     if (game.getIsInBetwenWave() && !game.isContinueToPlay() &&
-        latestClick - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)
+        CLICK_CLOCK - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)
         game.setContinueToPlay(true);
 
     if (!clic) {
@@ -148,14 +153,14 @@ void prepareFrame() {
 
 
 void drawPause(GLuint texture_pause) {
-    constexpr double side = 64.0;
+    constexpr double SIDE = 64.0;
     glColor4d(1, 1, 1, 1);
-    drawTexturedQuad(texture_pause, (tailleEcranX - side) / 2, (tailleEcranY - side) / 2, side, side);
+    drawTexturedQuad(texture_pause, (tailleEcranX - SIDE) / 2, (tailleEcranY - SIDE) / 2, SIDE, SIDE);
 }
 
 
-// Waits until `dt` milliseconds have passed since the previous frame was shown. That frame's own wait counts
-// towards this one.
+// Waits until `dt` milliseconds have passed since the previous frame was shown. That frame's own wait counts towards
+// this one, so light frames alternate between a whole wait and none, and the game runs faster than the clock.
 void pace(double dt, Uint32& tempsActuel, Uint32& dernierTemps) {
     tempsActuel = SDL_GetTicks();
     const Uint32 elapsed = tempsActuel - dernierTemps;
@@ -169,10 +174,10 @@ void pace(double dt, Uint32& tempsActuel, Uint32& dernierTemps) {
 
 // SDL's start-up library calls it by its C name.
 extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
-    srand(static_cast<unsigned int>(time(nullptr)));
+    std::srand(static_cast<unsigned int>(std::time(nullptr)));
     try {
-        const double dt = 20.0;
-        constexpr double stepSeconds = 0.02;
+        const double dt = 20.0; // milliseconds, of one frame
+        constexpr double STEP_SECONDS = 0.02;
 
         SDL_Init(SDL_INIT_VIDEO);
         SDL_WM_SetCaption("Vorel Defense INC.", nullptr);
@@ -183,6 +188,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         Game game(tailleEcranX, tailleEcranY);
         loadSounds();
         startTitleMusic();
+        setEffectsVolume();
 
         SDL_Event event;
         bool continuer = true;
@@ -223,7 +229,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
             if (!pause) {
                 if (clic && game.isPlaying())
                     game.shoot(Vecteur2D(coord_souris_x, coord_souris_y));
-                game.update(stepSeconds);
+                game.update(STEP_SECONDS);
             }
 
             prepareFrame();

@@ -9,7 +9,7 @@ void openglDrawCircle(const Vecteur2D& vect, const double& radius, const unsigne
     glColor4d(1, 0, 0, 0.1);
     glBegin(GL_POLYGON);
     for (unsigned int i = 0; i < pressison; ++i) {
-        const double a = i * (2 * Vecteur2D::pi) / pressison;
+        const double a = i * (2 * Vecteur2D::PI) / pressison;
         glVertex2d(vect[0] + std::cos(a) * radius, vect[1] + std::sin(a) * radius);
     }
     glVertex2d(vect[0] + radius, vect[1]);

@@ -3,23 +3,24 @@
 #include <SDL_image.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <cstddef>
 #include <cstring>
 #include <fstream>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
 namespace {
 
 // Bytes in memory run red, green, blue, alpha on a little-endian machine, as OpenGL's GL_RGBA wants them.
-constexpr Uint32 redMask = 0x000000FF;
-constexpr Uint32 greenMask = 0x0000FF00;
-constexpr Uint32 blueMask = 0x00FF0000;
-constexpr Uint32 alphaMask = 0xFF000000;
+constexpr Uint32 RED_MASK = 0x000000FF;
+constexpr Uint32 GREEN_MASK = 0x0000FF00;
+constexpr Uint32 BLUE_MASK = 0x00FF0000;
+constexpr Uint32 ALPHA_MASK = 0xFF000000;
 
 SDL_Surface* newRGBASurface(int width, int height) {
-    return SDL_CreateRGBSurface(SDL_SWSURFACE, width, height, 32, redMask, greenMask, blueMask, alphaMask);
+    return SDL_CreateRGBSurface(SDL_SWSURFACE, width, height, 32, RED_MASK, GREEN_MASK, BLUE_MASK, ALPHA_MASK);
 }
 
 
@@ -36,18 +37,23 @@ void quadVertices(double x, double y, double w, double h, const TextureArea& are
 }
 
 
+Uint8* pixelRow(SDL_Surface* surface, int y) {
+    return static_cast<Uint8*>(surface->pixels) + static_cast<std::ptrdiff_t>(y) * surface->pitch;
+}
+
+
 char xpmCharacter(SDL_Surface* image, int x, int y) {
-    constexpr Uint8 half = 128;
+    constexpr Uint8 HALF = 128;
     Uint32 pixel = 0;
-    std::memcpy(&pixel, static_cast<const Uint8*>(image->pixels) + y * image->pitch + x * sizeof pixel, sizeof pixel);
+    std::memcpy(&pixel, pixelRow(image, y) + x * sizeof pixel, sizeof pixel);
     Uint8 red = 0;
     Uint8 green = 0;
     Uint8 blue = 0;
     Uint8 alpha = 0;
     SDL_GetRGBA(pixel, image->format, &red, &green, &blue, &alpha);
-    if (alpha < half)
+    if (alpha < HALF)
         return ' ';
-    return red < half && green < half && blue < half ? 'X' : '.';
+    return red < HALF && green < HALF && blue < HALF ? 'X' : '.';
 }
 
 } // namespace
@@ -62,10 +68,10 @@ GLuint loadTexture(const char* filename, bool useMipMap) {
     format.palette = nullptr;
     format.BitsPerPixel = 32;
     format.BytesPerPixel = 4;
-    format.Rmask = redMask;
-    format.Gmask = greenMask;
-    format.Bmask = blueMask;
-    format.Amask = alphaMask;
+    format.Rmask = RED_MASK;
+    format.Gmask = GREEN_MASK;
+    format.Bmask = BLUE_MASK;
+    format.Amask = ALPHA_MASK;
     SDL_Surface* gl_surface = SDL_ConvertSurface(picture_surface, &format, SDL_SWSURFACE);
     SDL_Surface* gl_fliped_surface = flipSurface(gl_surface);
 
@@ -139,8 +145,8 @@ void clockwiseQuadVertices(double x, double y, double w, double h, const Texture
 
 
 void playSound(Mix_Chunk* son, int channel) {
-    constexpr int noTimeLimit = -1;
-    Mix_PlayChannelTimed(channel, son, 0, noTimeLimit);
+    constexpr int NO_TIME_LIMIT = -1;
+    Mix_PlayChannelTimed(channel, son, 0, NO_TIME_LIMIT);
 }
 
 
@@ -173,11 +179,8 @@ SDL_Surface* flipSurface(SDL_Surface* surface) {
 
     // Surfaces of one size may differ in the length of their rows.
     const int pitch = std::min(surface->pitch, fliped_surface->pitch);
-    const auto* source = static_cast<const Uint8*>(surface->pixels);
-    auto* target = static_cast<Uint8*>(fliped_surface->pixels);
     for (int current_line = 0; current_line < surface->h; ++current_line)
-        std::memcpy(target + current_line * fliped_surface->pitch,
-                    source + (surface->h - 1 - current_line) * surface->pitch, pitch);
+        std::memcpy(pixelRow(fliped_surface, current_line), pixelRow(surface, surface->h - 1 - current_line), pitch);
 
     SDL_UnlockSurface(fliped_surface);
     SDL_UnlockSurface(surface);
@@ -215,6 +218,7 @@ void drawAxis(double scale) {
 
 int initFullScreen(unsigned int* width, unsigned int* height) {
     SDL_Rect** modes = SDL_ListModes(nullptr, SDL_FULLSCREEN | SDL_OPENGL);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): so SDL says that any mode will do.
     if (modes == nullptr || modes == reinterpret_cast<SDL_Rect**>(-1))
         return 0;
 
@@ -268,18 +272,18 @@ int XPMFromImage(const char* imagefile, const char* XPMfile) {
 
 
 SDL_Cursor* cursorFromXPM(const char** xpm) {
-    constexpr int firstPixelRow = 4;
+    constexpr int FIRST_PIXEL_ROW = 4;
     int width = 0;
     int height = 0;
-    std::sscanf(xpm[0], "%d %d", &width, &height);
+    std::istringstream(xpm[0]) >> width >> height;
 
-    std::vector<Uint8> data(width / 8 * height, 0);
+    std::vector<Uint8> data(static_cast<std::size_t>(width / 8) * height, 0);
     std::vector<Uint8> mask(data);
     for (int row = 0; row < height; ++row) {
         for (int col = 0; col < width; ++col) {
             const int byte = (row * width + col) / 8;
             const Uint8 bit = 0x80U >> col % 8;
-            const char pixel = xpm[firstPixelRow + row][col];
+            const char pixel = xpm[FIRST_PIXEL_ROW + row][col];
             if (pixel == 'X')
                 data[byte] |= bit;
             if (pixel == 'X' || pixel == '.')
@@ -289,6 +293,7 @@ SDL_Cursor* cursorFromXPM(const char** xpm) {
 
     int hot_x = 0;
     int hot_y = 0;
-    std::sscanf(xpm[firstPixelRow + height], "%d,%d", &hot_x, &hot_y);
+    char comma = ',';
+    std::istringstream(xpm[FIRST_PIXEL_ROW + height]) >> hot_x >> comma >> hot_y;
     return SDL_CreateCursor(data.data(), mask.data(), width, height, hot_x, hot_y);
 }

@@ -10,7 +10,7 @@ Beam::Beam(const double& width, const double& speed, const double& range, const 
            const double& damage, const double& length, const Vecteur2D& dir)
     : Entity(positionOrigine, true, true, width, length), length(length), width(width), range(range), speed(speed),
       origine(positionOrigine), damage(damage), isActive(true),
-      m_texture(sharedTexture("Assets/img/VorelDefence_projectile.PNG")), m_explosion(sharedTexture(explosionPicture)),
+      m_texture(sharedTexture("Assets/img/VorelDefence_projectile.PNG")), m_explosion(sharedTexture(EXPLOSION_PICTURE)),
       sprite(0), explose(false), delta_temps(0.0), dir(dir) {}
 
 
@@ -43,7 +43,7 @@ double Beam::getWidth() const { return width; }
 
 void Beam::update(const double& dt, const Game& /*game*/) {
     if (getIsActive() && !explose)
-        getPos() += dir.normalise() * dt * speed;
+        setPosition(Vecteur2D(getPos() + dir.normalise() * dt * speed));
 
     if (explose && advanceExplosion(dt, delta_temps, sprite))
         isActive = false;
@@ -70,8 +70,8 @@ void Beam::draw(const double& /*dt*/) const {
 
     if (explose) {
         const double f = 4.0;
-        const double cx = static_cast<double>(sprite) / explosionFrames;
-        drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / explosionFrames, 0.5});
+        const double cx = static_cast<double>(sprite) / EXPLOSION_FRAMES;
+        drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});
     } else {
         drawTexturedQuad(m_texture, x, y, t * tx, t * ty);
     }

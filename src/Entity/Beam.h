@@ -18,7 +18,7 @@ public:
 
     /// Not beyond its range, and its splash is not over.
     bool getIsActive() const;
-    /// The turret deletes it at its next step.
+    /// No longer active: its turret deletes it.
     bool isNeedToBeDelete() const;
     bool isSolide() const override;
     /// Has burst, and so hurts nobody any more.

@@ -9,10 +9,10 @@
 namespace {
 
 // The sheet of walking grunts: a column for each frame, a row for each facing, from the top.
-constexpr int walkFrames = 4;
-constexpr int facings = 4;
-enum Facing { right, up, left, down };
-constexpr double secondsPerWalkFrame = 0.1666;
+constexpr int WALK_FRAMES = 4;
+constexpr int FACINGS = 4;
+enum Facing { RIGHT, UP, LEFT, DOWN };
+constexpr double SECONDS_PER_WALK_FRAME = 0.1666;
 
 } // namespace
 
@@ -23,8 +23,8 @@ Mix_Chunk* Ennemi::son_grunt = nullptr;
 
 Ennemi::Ennemi(const Vecteur2D& vect, const double& health, const double& speed, const double& polution,
                const double& w, const double& h, const std::string& name)
-    : Entity(vect, true, true, w, h), m_texture(sharedTexture("Assets/img/VorelDefense_grunts.PNG")), direction(right),
-      n_sprite(0), delta_temps(0.0), m_explosion(sharedTexture(explosionPicture)), e_sprite(0), explose(false),
+    : Entity(vect, true, true, w, h), m_texture(sharedTexture("Assets/img/VorelDefense_grunts.PNG")), direction(RIGHT),
+      n_sprite(0), delta_temps(0.0), m_explosion(sharedTexture(EXPLOSION_PICTURE)), e_sprite(0), explose(false),
       e_delta_temps(0.0), glitch(false), health(health), speed(speed), polution(polution), name(name) {}
 
 
@@ -42,7 +42,7 @@ void Ennemi::removeHealth(const double& healthMinus) {
     // About one death in five is drawn wrong, on purpose.
     playSound(son_explosion);
     playSound(son_grunt);
-    glitch = rand() % 100 > 80;
+    glitch = std::rand() % 100 > 80;
     explose = true;
 }
 
@@ -70,12 +70,12 @@ void Ennemi::update(const double& dt, const Game& game) {
 
     // Nothing stops a grunt, not even its own explosion; the collision with the tower takes it away.
     if (distanceTo(tower) != 0.0)
-        getPos() += (tower - getPos()).normalise() * speed * dt;
+        setPosition(Vecteur2D(getPos() + Vecteur(tower - getPos()).normalise() * speed * dt));
 
     delta_temps += dt;
-    if (delta_temps >= secondsPerWalkFrame) {
+    if (delta_temps >= SECONDS_PER_WALK_FRAME) {
         delta_temps = 0.0;
-        n_sprite = (n_sprite + 1) % walkFrames;
+        n_sprite = (n_sprite + 1) % WALK_FRAMES;
     }
 
     if (explose && advanceExplosion(dt, e_delta_temps, e_sprite))
@@ -89,13 +89,13 @@ void Ennemi::face(const Vecteur2D& tower) {
     const Vecteur2D dir(tower - getPos());
     const double alpha = Vecteur2D::normaliserAngle(dir.getAngle());
     if (-45 < alpha && alpha < 45)
-        direction = right;
+        direction = RIGHT;
     else if (45 < alpha && alpha < 135)
-        direction = up;
+        direction = UP;
     else if (alpha > 135 || alpha < -135)
-        direction = left;
+        direction = LEFT;
     else
-        direction = down;
+        direction = DOWN;
 }
 
 
@@ -113,17 +113,17 @@ void Ennemi::draw(const double& /*dt*/) const {
     glPushMatrix();
     if (!explose) {
         // The margins keep the neighbouring frames of the sheet out.
-        const double cx = static_cast<double>(n_sprite) / walkFrames;
-        const double r = 1 - static_cast<double>(direction) / facings;
+        const double cx = static_cast<double>(n_sprite) / WALK_FRAMES;
+        const double r = 1 - static_cast<double>(direction) / FACINGS;
         glTranslated(-t * tx / 2, -t * ty / 2, 0);
         drawTexturedQuad(m_texture, x, y, t * tx, t * ty, {cx + 0.001, r - 0.25 + 0.01, cx + 0.25 - 0.001, r - 0.003});
     } else {
         // A glitch cuts the sheet of walking grunts as if it were the explosion's.
         const double f = glitch ? 1.0 : 3.0;
-        const double cx = static_cast<double>(e_sprite) / explosionFrames;
+        const double cx = static_cast<double>(e_sprite) / EXPLOSION_FRAMES;
         glTranslated(-f * t * tx / 2, -f * t * ty / 2, 0);
         drawTexturedQuad(glitch ? m_texture : m_explosion, x, y, f * t * tx, f * t * ty,
-                         {cx, 0.5, cx + 1.0 / explosionFrames, 1.0});
+                         {cx, 0.5, cx + 1.0 / EXPLOSION_FRAMES, 1.0});
     }
     glColor4d(1, 1, 1, 1);
     glPopMatrix();

@@ -14,13 +14,13 @@
 class Ennemi : public Entity {
 public:
     /// At `vect`, with `health` in hit points, `speed` in pixels per second, `polution` in units of water,
-    /// the collision radius `w` in pixels, and a name that nobody displays.
+    /// the collision radius `w` in pixels, and a name to tell it by in a debugger.
     Ennemi(const Vecteur2D& vect, const double& health, const double& speed, const double& polution, const double& w,
            const double& h, const std::string& name);
     Ennemi* copy() const override;
 
     bool isAlive() const;
-    /// Takes health off. At 0 or below the grunt cries and explodes, and does so at every further hit.
+    /// Takes health off. At 0 or below the grunt explodes; it cries then and at every further hit.
     void removeHealth(const double& healthMinus);
 
     double getHealth() const;

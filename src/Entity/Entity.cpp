@@ -27,8 +27,9 @@ double Entity::distanceTo(const Vecteur2D& point) const { return position.distan
 
 
 Vecteur2D Entity::getPosCase() const {
-    return {static_cast<double>(static_cast<int>(position[0]) / static_cast<int>(Game::largeur_case)),
-            static_cast<double>(static_cast<int>(position[1]) / static_cast<int>(Game::hauteur_case))};
+    const int column = static_cast<int>(position[0]) / static_cast<int>(Game::largeur_case);
+    const int row = static_cast<int>(position[1]) / static_cast<int>(Game::hauteur_case);
+    return {static_cast<double>(column), static_cast<double>(row)};
 }
 
 
@@ -54,9 +55,7 @@ bool Entity::isColliding(Entity& entity) const {
 
 
 bool Entity::advanceExplosion(const double& dt, double& elapsed, int& frame) {
-    constexpr double firstFrameHeld = 0.3;
+    constexpr double FIRST_FRAME_HELD = 0.3;
     elapsed += dt;
-    if (elapsed > firstFrameHeld)
-        ++frame;
-    return frame >= explosionFrames;
+    return elapsed > FIRST_FRAME_HELD && ++frame >= EXPLOSION_FRAMES;
 }

@@ -13,13 +13,13 @@ class Tower;
 class Entity {
 public:
     /// At `position` (pixels). `collideBoxWidth` is the radius of the collision disc in pixels;
-    /// `collideBoxHeigth` is kept for readers, no rule uses it.
+    /// `collideBoxHeigth` is only reported.
     Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate, double collideBoxWidth,
            double collideBoxHeigth);
     Entity(const Entity& entity) = default;
     Entity& operator=(const Entity& entity) = default;
 
-    // The virtual operations, in the order of their slots.
+    // What every kind of object does in its own way.
 
     /// Tells `entity`, which this object was found to touch, what it was touched by.
     virtual void collide(Entity* entity) = 0;
@@ -69,11 +69,11 @@ protected:
 
     // What jets and grunts share when they burst: one sheet of eight frames, a row for each of them.
 
-    static constexpr const char* explosionPicture = "Assets/img/VorelDefense_explosions_64.png";
-    static constexpr int explosionFrames = 8;
+    static constexpr const char* EXPLOSION_PICTURE = "Assets/img/VorelDefense_explosions_64.png";
+    static constexpr int EXPLOSION_FRAMES = 8;
 
     /// Advances a burst by `dt` seconds: its first frame is held, the others pass with one step each.
-    /// `elapsed` are the seconds since the burst, `frame` is 8 once it is over. Returns whether it is over.
+    /// `elapsed` are the seconds since the burst. Returns whether it is over.
     static bool advanceExplosion(const double& dt, double& elapsed, int& frame);
 };
 

@@ -6,15 +6,15 @@
 
 namespace {
 
-constexpr double fullTank = 100.0;
-constexpr double collideRadius = 30.0;
+constexpr double FULL_TANK = 100.0;
+constexpr double COLLIDE_RADIUS = 30.0;
 
 } // namespace
 
 
 Tower::Tower(const Vecteur2D& vect)
-    : Entity(vect, true, true, collideRadius, collideRadius), m_water(fullTank), m_capacity(fullTank), m_pollution(0.0),
-      m_texture_eau(loadTexture("Assets/img/VorelTower_water_128.PNG", true)),
+    : Entity(vect, true, true, COLLIDE_RADIUS, COLLIDE_RADIUS), m_water(FULL_TANK), m_capacity(FULL_TANK),
+      m_pollution(0.0), m_texture_eau(loadTexture("Assets/img/VorelTower_water_128.PNG", true)),
       m_texture_fond(loadTexture("Assets/img/VorelTower_back_128.PNG", true)),
       m_texture_devant(loadTexture("Assets/img/VorelTower_front_128.PNG", true)) {}
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double collideRadius = 30.0;
+constexpr double COLLIDE_RADIUS = 30.0;
 
 } // namespace
 
@@ -20,7 +20,7 @@ Mix_Chunk* Weapon::son_construct = nullptr;
 Weapon::Weapon(const Vecteur2D& vect, const std::string& /*path*/, const double& waterConsume, const double& radius,
                const double& beamRadius, const double& damage, const double& shotCoolldowmnTime,
                const double& beamLength, const double& beamWidth, const double& beamSpeed)
-    : Entity(vect, false, true, collideRadius, collideRadius),
+    : Entity(vect, false, true, COLLIDE_RADIUS, COLLIDE_RADIUS),
       m_texture(sharedTexture("Assets/img/WaterTurret_64x64.PNG")), waterConsume(waterConsume), radius(radius),
       beamRadius(beamRadius), damage(damage), beamWidth(beamWidth), shotCoolldowmnTime(shotCoolldowmnTime),
       cooldownStatue(0.0), beamLength(beamLength), beamSpeed(beamSpeed) {}
@@ -40,8 +40,8 @@ Weapon* Weapon::copy() const { return new Weapon(*this); }
 
 
 bool Weapon::shoot(Vecteur2D pos, Tower& tower) {
-    const bool ready = cooldownStatue <= 0.0;
-    if (!ready || !(distanceTo(pos) <= radius) || !tower.canRemoveWater(waterConsume))
+    const bool allowed = cooldownStatue <= 0.0 && distanceTo(pos) <= radius && tower.canRemoveWater(waterConsume);
+    if (!allowed)
         return false;
 
     cooldownStatue = shotCoolldowmnTime;

@@ -15,8 +15,8 @@ class Weapon : public Entity {
 public:
     /// Centred on `vect`. A shot takes `waterConsume` units of water and is followed by `shotCoolldowmnTime`
     /// seconds of rest; a target may be `radius` pixels away. `beamRadius` (range), `beamLength` and
-    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health go to the jets. `path`
-    /// is not used: all turrets look alike.
+    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health go to the jets. `path` is
+    /// for turrets with a picture of their own; so far all look alike.
     Weapon(const Vecteur2D& vect, const std::string& path, const double& waterConsume, const double& radius,
            const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
            const double& beamWidth, const double& beamSpeed);
@@ -29,7 +29,7 @@ public:
     /// Fires one jet at `pos`, paid from `tower`, if allowed. Returns whether it fired.
     bool shoot(Vecteur2D pos, Tower& tower);
 
-    /// The jets in flight; never null after an update.
+    /// The jets in flight, none of them null.
     const std::vector<Beam*>& getBeams() const;
     double getRadius() const;
     double getBeamRadius() const;

@@ -1,5 +1,6 @@
 #include "Game/Game.h"
 
+#include "Entity/Ennemi.h"
 #include "sdlglutils.h"
 #include "utility/utility.h"
 
@@ -8,7 +9,7 @@
 
 namespace {
 
-constexpr int startMoney = 2000;
+constexpr int START_MONEY = 2000;
 
 // Every wave is made of the same grunt, one of which enters each second.
 Wave waveOf(unsigned int ennemis) {
@@ -33,7 +34,7 @@ Game::Game(const double& width, const double& heigth)
       x_tourelle(960), y_tourelle(563), w_tourelle(64), h_tourelle(64), tourelle_active(false), x_bouteille(0),
       y_bouteille(0), w_bouteille(64), h_bouteille(512), x_argent(844), y_argent(668), w_argent(170), h_argent(85),
       time(0.0), argentGain(0.0), waterDepart(0.0), finalWaterLeft(false), currentWave(0), isInTitleScreen(true),
-      isInBetwenWave(false), timeBeforeNextWave(0.0), argent(startMoney), loos(false), width(width), heigth(heigth),
+      isInBetwenWave(false), timeBeforeNextWave(0.0), argent(START_MONEY), loos(false), width(width), heigth(heigth),
       timeLoos(0.0), continueToPlay(true) {
     m_texture_tourelle = loadTexture("Assets/img/TurretIcon_64.png", true);
     m_texture_sol = loadTexture("Assets/img/tileSet_v2_32x32.png", true);
@@ -65,7 +66,7 @@ void Game::init() { m_waves.push_back(waveOf(1)); }
 
 
 void Game::restart() {
-    argent = startMoney;
+    argent = START_MONEY;
     m_waves.clear();
     deletePointerInVector(weapons);
     weapons.clear();
@@ -127,6 +128,8 @@ int Game::getLargeurCase() const { return static_cast<int>(largeur_case); }
 int Game::getHauteurCase() const { return static_cast<int>(hauteur_case); }
 
 
+// A fresh generator each time, seeded with the clock's low 32 bits: grunts released at one reading of the clock enter
+// at one place.
 Vecteur2D Game::spawnEnnemi() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     const auto seed = static_cast<unsigned int>(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
@@ -136,16 +139,16 @@ Vecteur2D Game::spawnEnnemi() {
 
     // The side edges take `width` units of the perimeter and the others `heigth`: grunts may enter above the
     // window's top at its sides, and never above or below its rightmost part.
-    constexpr double outside = 30.0;
+    constexpr double OUTSIDE = 30.0;
     Vecteur2D pos;
     if (positionOnPerimeter < width)
-        pos = {-outside, positionOnPerimeter};
+        pos = {-OUTSIDE, positionOnPerimeter};
     else if (positionOnPerimeter < width + heigth)
-        pos = {positionOnPerimeter - width, heigth + outside};
+        pos = {positionOnPerimeter - width, heigth + OUTSIDE};
     else if (positionOnPerimeter < 2 * width + heigth)
-        pos = {width + outside, positionOnPerimeter - width - heigth};
+        pos = {width + OUTSIDE, positionOnPerimeter - width - heigth};
     else
-        pos = {positionOnPerimeter - 2 * width - heigth, -outside};
+        pos = {positionOnPerimeter - 2 * width - heigth, -OUTSIDE};
     return pos;
 }
 

@@ -13,9 +13,9 @@
 #include <vector>
 
 /// The length of the phase between two waves, in seconds.
-const double TIME_BETTWENN_WAVE = 15.0;
+inline constexpr double TIME_BETTWENN_WAVE = 15.0;
 
-/// A grid of the ground, indexed [column][row] from the lower-left corner: 0 for plain ground and 1 for a
+/// A grid of the whole ground, indexed [column][row] from the lower-left corner: 0 for plain ground and 1 for a
 /// patch before it is smoothed, indices of tiles afterwards.
 using Ground = std::vector<std::vector<int>>;
 
@@ -129,9 +129,9 @@ public:
     void afficherArgentGain(const double& dt) const;
 
 private:
-    // The parts of a step, in their order.
+    // The parts of a step, and of the phase between waves.
     void releaseEnnemis();
-    void collide();
+    void resolveCollisions();
     void updateBetwenWave(const double& dt);
     void drainWater();
     void payOut();

@@ -7,82 +7,82 @@
 
 namespace {
 
-/// Where a group of patches may have its centre: so many cells from a corner of the map.
-struct Corner {
+// Where a group of patches may have its centre: so many cells from a corner of the map.
+struct Origin {
     int column, row;
     int stepX, spreadX;
     int stepY, spreadY;
 };
 
-constexpr Corner corners[] = {
+constexpr Origin ORIGINS[] = {
     {0, 0, 1, 10, 1, 8},
     {Game::largeur, 0, -1, 8, 1, 6},
     {0, Game::hauteur, 1, 10, -1, 8},
     {Game::largeur, Game::hauteur, -1, 8, -1, 6},
 };
 
-constexpr int plain = 0;
-constexpr int patch = 1;
-constexpr int patchTile = 4;
-constexpr int plainTile = 13;
+constexpr int PLAIN = 0;
+constexpr int PATCH = 1;
+constexpr int PATCH_TILE = 4;
+constexpr int PLAIN_TILE = 13;
 
-bool groupIsThere() { return rand() % 100 < 60; }
+bool groupIsThere() { return std::rand() % 100 < 60; }
 
 
 void creerGroupe(int px, int py, Ground& tab_sol) {
     for (int i = 0; i < 2; ++i) {
-        const double r = 2.0 + (rand() % 10) / 9.0;
-        const int y = py + rand() % 3 - 1;
-        const int x = px + rand() % 3 - 1;
+        const double r = 2.0 + (std::rand() % 10) / 9.0;
+        const int y = py + std::rand() % 3 - 1;
+        const int x = px + std::rand() % 3 - 1;
         creerTache(x, y, r, tab_sol);
     }
 }
 
 
-/// "1" for a patch, "0" for plain ground and for everything beyond the map.
+// '1' for a patch, '0' for plain ground and for everything beyond the map.
 char mark(const Ground& tab_sol, int x, int y) {
     const bool inside =
         x >= 0 && x < static_cast<int>(tab_sol.size()) && y >= 0 && y < static_cast<int>(tab_sol[x].size());
-    return inside && tab_sol[x][y] == patch ? '1' : '0';
+    return inside && tab_sol[x][y] == PATCH ? '1' : '0';
 }
 
 
 int plainCellTile(const Ground& tab_sol, int x, int y) {
-    // The side neighbours: right, above, left, below; then the diagonal ones.
+    // The side neighbours: right, above, left, below; and the corners between them.
     const std::string code{mark(tab_sol, x + 1, y), mark(tab_sol, x, y + 1), mark(tab_sol, x - 1, y),
                            mark(tab_sol, x, y - 1)};
-    const bool upperRight = mark(tab_sol, x + 1, y + 1) == '1';
-    const bool upperLeft = mark(tab_sol, x - 1, y + 1) == '1';
-    const bool lowerLeft = mark(tab_sol, x - 1, y - 1) == '1';
-    const bool lowerRight = mark(tab_sol, x + 1, y - 1) == '1';
+    const std::string coins{mark(tab_sol, x + 1, y + 1), mark(tab_sol, x - 1, y + 1), mark(tab_sol, x - 1, y - 1),
+                            mark(tab_sol, x + 1, y - 1)};
 
-    // The first rule that matches wins.
-    const struct {
-        bool diagonal;
+    // The first rule whose corner is a patch and whose sides match gives the tile.
+    enum Corner { UPPER_RIGHT, UPPER_LEFT, LOWER_LEFT, LOWER_RIGHT, WHATEVER };
+    constexpr struct {
+        Corner corner;
         const char* code;
         int tile;
-    } rules[] = {
-        {lowerRight, "0000", 0},   {true, "0001", 1},        {lowerLeft, "0000", 2},   {true, "1000", 3},
-        {true, "1111", patchTile}, {true, "0010", 5},        {upperRight, "0000", 6},  {true, "0100", 7},
-        {upperLeft, "0000", 8},    {upperLeft, "0110", 9},   {upperRight, "1100", 11}, {true, "0000", plainTile},
-        {lowerLeft, "0011", 15},   {lowerRight, "1001", 17},
+    } RULES[] = {
+        {LOWER_RIGHT, "0000", 0}, {WHATEVER, "0001", 1},          {LOWER_LEFT, "0000", 2},
+        {WHATEVER, "1000", 3},    {WHATEVER, "1111", PATCH_TILE}, {WHATEVER, "0010", 5},
+        {UPPER_RIGHT, "0000", 6}, {WHATEVER, "0100", 7},          {UPPER_LEFT, "0000", 8},
+        {UPPER_LEFT, "0110", 9},  {UPPER_RIGHT, "1100", 11},      {WHATEVER, "0000", PLAIN_TILE},
+        {LOWER_LEFT, "0011", 15}, {LOWER_RIGHT, "1001", 17},
     };
-    for (const auto& rule : rules)
-        if (rule.diagonal && code == rule.code)
+    for (const auto& rule : RULES)
+        if (code == rule.code && (rule.corner == WHATEVER || coins[rule.corner] == '1'))
             return rule.tile;
-    return plainTile;
+    return PLAIN_TILE;
 }
 
 } // namespace
 
 
 Ground creation_sol() {
-    Ground tab_sol(Game::largeur, std::vector<int>(Game::hauteur, plain));
-    for (const Corner& corner : corners) {
+    Ground tab_sol(Game::largeur, std::vector<int>(Game::hauteur, PLAIN));
+    for (const Origin& origin : ORIGINS) {
         if (!groupIsThere())
             continue;
-        const int px = corner.column + corner.stepX * (rand() % corner.spreadX);
-        const int py = corner.row + corner.stepY * (rand() % corner.spreadY);
+        const int px = origin.column + origin.stepX * (std::rand() % origin.spreadX);
+        const int py = origin.row + origin.stepY * (std::rand() % origin.spreadY);
         creerGroupe(px, py, tab_sol);
     }
     if (groupIsThere())
@@ -96,7 +96,7 @@ void creerTache(const int& x, const int& y, const double& r, Ground& tab_sol) {
         for (int j = static_cast<int>(y - r); j <= y + r; ++j) {
             const bool inside = i >= 0 && i < Game::largeur && j >= 0 && j < Game::hauteur;
             if (inside && r * r >= (i - x) * (i - x) + (j - y) * (j - y))
-                tab_sol[i][j] = patch;
+                tab_sol[i][j] = PATCH;
         }
 }
 
@@ -106,7 +106,7 @@ Ground lisser(const Ground& tab_sol) {
     for (size_t x = 0; x < sol_final.size(); ++x)
         for (size_t y = 0; y < sol_final[x].size(); ++y)
             sol_final[x][y] =
-                tab_sol[x][y] != plain ? patchTile : plainCellTile(tab_sol, static_cast<int>(x), static_cast<int>(y));
+                tab_sol[x][y] != PLAIN ? PATCH_TILE : plainCellTile(tab_sol, static_cast<int>(x), static_cast<int>(y));
     return sol_final;
 }
 

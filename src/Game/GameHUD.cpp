@@ -6,19 +6,25 @@
 namespace {
 
 // A turret as the shop builds it.
-constexpr double waterPerShot = 1.0;
-constexpr double turretRange = 300.0;
-constexpr double jetDamage = 50.0;
-constexpr double secondsBetweenShots = 1.0;
-constexpr double jetSize = 10.0;
-constexpr double jetSpeed = 80.0;
+constexpr double WATER_PER_SHOT = 1.0;
+constexpr double TURRET_RANGE = 300.0;
+constexpr double JET_DAMAGE = 50.0;
+constexpr double SECONDS_BETWEEN_SHOTS = 1.0;
+constexpr double JET_SIZE = 10.0;
+constexpr double JET_SPEED = 80.0;
 
 // How close to the tower and to one another turrets may stand.
-constexpr double tooNearTheTower = 70.0;
-constexpr double tooNearATurret = 50.0;
+constexpr double TOO_NEAR_THE_TOWER = 70.0;
+constexpr double TOO_NEAR_A_TURRET = 50.0;
 
-// The lower-left corner of the cell that a coordinate lies in.
-int snapped(int coordinate) { return coordinate - coordinate % static_cast<int>(Game::largeur_case); }
+// How finely the discs of the ranges are drawn.
+constexpr unsigned int DISC_SEGMENTS = 40;
+
+// The lower-left corner of the cell that a point lies in.
+int snappedX(int x) { return x - x % static_cast<int>(Game::largeur_case); }
+
+
+int snappedY(int y) { return y - y % static_cast<int>(Game::hauteur_case); }
 
 } // namespace
 
@@ -38,15 +44,17 @@ void Game::desactiveTourelle() { tourelle_active = false; }
 
 
 void Game::poserTourelle(const int& x, const int& y) {
-    const Vecteur2D weaponPlace(snapped(x), snapped(y));
-    bool conflict = m_tower.distanceTo(weaponPlace) < tooNearTheTower;
+    const int cx = snappedX(x);
+    const int cy = snappedY(y);
+    const Vecteur2D weaponPlace(cx, cy);
+    bool conflict = m_tower.distanceTo(weaponPlace) < TOO_NEAR_THE_TOWER;
     for (const Weapon* w : weapons)
-        conflict = conflict || w->distanceTo(weaponPlace) < tooNearATurret;
+        conflict = conflict || w->distanceTo(weaponPlace) < TOO_NEAR_A_TURRET;
     if (conflict || argent - Weapon::price < 0)
         return;
 
-    addWeapon(Weapon(weaponPlace, "", waterPerShot, turretRange, turretRange, jetDamage, secondsBetweenShots, jetSize,
-                     jetSize, jetSpeed));
+    addWeapon(Weapon(weaponPlace, "", WATER_PER_SHOT, TURRET_RANGE, TURRET_RANGE, JET_DAMAGE, SECONDS_BETWEEN_SHOTS,
+                     JET_SIZE, JET_SIZE, JET_SPEED));
     argent -= Weapon::price;
     playSound(Weapon::son_construct);
 }
@@ -56,11 +64,11 @@ void Game::dessinerTourelleGrisee(const int& x, const int& y) const {
     constexpr double t = 2.0;
     constexpr double w = t * largeur_case;
     constexpr double h = t * hauteur_case;
-    const double cx = snapped(x) - w / 2;
-    const double cy = snapped(y) - h / 2;
+    const double cx = snappedX(x) - w / 2;
+    const double cy = snappedY(y) - h / 2;
     glColor4d(1, 1, 1, 0.4);
     drawTexturedQuad(m_texture_tourelle, cx, cy, w, h);
-    openglDrawCircle(Vecteur2D(cx + w / 2, cy + h / 2), turretRange, 40);
+    openglDrawCircle(Vecteur2D(cx + w / 2, cy + h / 2), TURRET_RANGE, DISC_SEGMENTS);
     glColor4d(1, 1, 1, 1);
 }
 
@@ -76,23 +84,27 @@ void Game::drawGUI(const double& dt, const int& /*x*/, const int& /*y*/) const {
 
 
 void Game::drawGauge() const {
-    // The bottle's picture is 1024 texels high; its liquid stands between these two rows.
-    constexpr double texels = 1024.0;
-    constexpr double full = 803.0;
-    constexpr double empty = 144.0;
-    const auto drawContentUpTo = [this](double py) {
-        drawTexturedQuad(m_texture_bouteille_eau, x_bouteille, y_bouteille, w_bouteille, h_bouteille * py / texels,
-                         {0.0, 0.0, 1.0, py / texels});
+    // The bottle's picture is TEXELS high; its liquid stands between the rows y1, when it is empty, and y2.
+    constexpr double TEXELS = 1024.0;
+    const double y1 = 144.0;
+    double y2 = 803.0;
+    const auto drawContentUpTo = [this](double row) {
+        drawTexturedQuad(m_texture_bouteille_eau, x_bouteille, y_bouteille, w_bouteille, h_bouteille * row / TEXELS,
+                         {0.0, 0.0, 1.0, row / TEXELS});
     };
 
-    const double water = (full - empty) * (m_tower.getWater() / m_tower.getCapacity()) + empty;
+    double r = m_tower.getWater() / m_tower.getCapacity();
+    double py = (y2 - y1) * r + y1;
     glColor4d(0, 0, 1, 1);
-    drawContentUpTo(water);
+    drawContentUpTo(py);
 
     // The polluted share of the water stands at its bottom; an empty tank has none.
     if (m_tower.getWater() > 0.0) {
+        y2 = py;
+        r = m_tower.getRatio();
+        py = (y2 - y1) * r + y1;
         glColor4d(1, 0, 0, 1);
-        drawContentUpTo((water - empty) * m_tower.getRatio() + empty);
+        drawContentUpTo(py);
     }
 
     glColor4d(1, 1, 1, 1);
@@ -103,7 +115,6 @@ void Game::drawGauge() const {
 void Game::afficherArgent(const double& /*dt*/) const {
     glColor4d(1, 1, 1, 1);
     drawMoney(argent);
-    glColor4d(1, 1, 1, 1);
 }
 
 
@@ -111,13 +122,13 @@ void Game::afficherArgentGain(const double& /*dt*/) const { drawMoney(static_cas
 
 
 void Game::drawMoney(int amount) const {
-    constexpr int digits = 6;
+    constexpr int DIGITS = 6;
     constexpr double f = 2.4;
     constexpr double w = 32 / f;
     constexpr double h = 64 / f;
     glPushMatrix();
     glTranslated(964, 698, 0);
-    drawDigits(m_texture_argent, amount, digits, w, h);
-    drawTexturedQuad(m_texture_dollar, -(digits + 1) * w, 0, 64 / f, h);
+    drawDigits(m_texture_argent, amount, DIGITS, w, h);
+    drawTexturedQuad(m_texture_dollar, -(DIGITS + 1) * w, 0, 64 / f, h);
     glPopMatrix();
 }

@@ -15,7 +15,9 @@ constexpr double yPosChart = 376.0;
 constexpr double xSkinDiff = 20.0;
 constexpr double ySkinDiff = 5.0;
 
-// A slice of the pie around (`x`, `y`), between two of the points on its rim.
+
+// A slice of the pie around (`x`, `y`), between two of the points on its rim. A fan, for a slice of more than half the
+// pie is not convex.
 void drawSlice(GLuint texture, double x, double y, int first, int last) {
     glEnable(GL_TEXTURE_2D);
     glBindTexture(GL_TEXTURE_2D, texture);
@@ -23,7 +25,7 @@ void drawSlice(GLuint texture, double x, double y, int first, int last) {
     glTexCoord2d(0.5, 0.5);
     glVertex2d(x, y);
     for (int i = first; i <= last; ++i) {
-        const double a = i * (2 * Vecteur2D::pi) / pressision;
+        const double a = i * (2 * Vecteur2D::PI) / pressision;
         glTexCoord2d((std::cos(a) + 1) / 2, (std::sin(a) + 1) / 2);
         glVertex2d(x + std::cos(a) * rad, y + std::sin(a) * rad);
     }
@@ -71,8 +73,8 @@ void Game::drawTitleScreen() const { drawTexturedQuad(m_texture_Title_screen, 0,
 
 
 void Game::drawLoosScreen() const {
-    constexpr double secondsToFadeIn = 10.0;
-    glColor4d(1, 1, 1, timeLoos / secondsToFadeIn);
+    constexpr double SECONDS_TO_FADE_IN = 10.0;
+    glColor4d(1, 1, 1, timeLoos / SECONDS_TO_FADE_IN);
     drawTexturedQuad(m_texture_loos_screen, 0, 256, width, 256);
     drawWavePanel();
     glColor4d(1, 1, 1, 1);
@@ -81,12 +83,12 @@ void Game::drawLoosScreen() const {
 
 void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*/) const {
     const double e = TIME_BETTWENN_WAVE - timeBeforeNextWave;
-    constexpr double fadesOut = timeApearRoundMenu + timeStayRoundMenu;
+    constexpr double FADES_OUT = timeApearRoundMenu + timeStayRoundMenu;
     double alpha = 1.0;
     if (e < timeApearRoundMenu)
         alpha = e / timeApearRoundMenu;
-    else if (e >= fadesOut)
-        alpha = 1 - (e - fadesOut) / timeDisapearRoundMenu;
+    else if (e >= FADES_OUT)
+        alpha = 1 - (e - FADES_OUT) / timeDisapearRoundMenu;
     glColor4d(1, 1, 1, alpha);
 
     // The window shows the middle three quarters of the square picture.
@@ -118,6 +120,7 @@ void Game::drawWavePanel() const {
     glBegin(GL_QUADS);
     clockwiseQuadVertices(0, 0, 512, 256);
     glEnd();
+    glDisable(GL_TEXTURE_2D);
 
     glPushMatrix();
     glTranslated(500, 45, 0);

@@ -1,30 +1,33 @@
 #include "Game/Game.h"
 
 #include "Entity/Beam.h"
+#include "Entity/Ennemi.h"
 #include "sdlglutils.h"
 #include "utility/HeterogeneousContainer.h"
+
+#include <vector>
 
 namespace {
 
 // Between waves, counted in the seconds that are left before the next one: the water drains into money
 // between the first two, then the rest is paid, and without a click the countdown holds at the last.
-constexpr double drainBegins = 13.0;
-constexpr double drainEnds = 11.0;
-constexpr double countdownHolds = 10.0;
+constexpr double DRAIN_BEGINS = 13.0;
+constexpr double DRAIN_ENDS = 11.0;
+constexpr double COUNTDOWN_HOLDS = 10.0;
 
 constexpr double argentParWater = 20.0;
-constexpr int stepsBetweenCoins = 20;
+constexpr int STEPS_BETWEEN_COINS = 20;
 
 // Pure water below this is a defeat, but not in the first moments of a wave.
-constexpr double leastPureWater = 1.0;
-constexpr double timeOfGrace = 1.0;
+constexpr double LEAST_PURE_WATER = 1.0;
+constexpr double TIME_OF_GRACE = 1.0;
 
 
 void playJingle(Mix_Chunk* son) {
-    constexpr int jingleChannel = 8;
-    constexpr int jingleVolume = 50;
-    Mix_Volume(jingleChannel, jingleVolume);
-    playSound(son, jingleChannel);
+    constexpr int JINGLE_CHANNEL = 8;
+    constexpr int JINGLE_VOLUME = 50;
+    Mix_Volume(JINGLE_CHANNEL, JINGLE_VOLUME);
+    playSound(son, JINGLE_CHANNEL);
 }
 
 } // namespace
@@ -37,11 +40,11 @@ void Game::update(const double& dt) {
         w->update(dt, *this);
 
     releaseEnnemis();
-    collide();
+    resolveCollisions();
     if (isInBetwenWave)
         updateBetwenWave(dt);
 
-    if (m_tower.getPureWaterLeft() < leastPureWater && !isInBetwenWave && time > timeOfGrace && !loos) {
+    if (m_tower.getPureWaterLeft() < LEAST_PURE_WATER && !isInBetwenWave && time > TIME_OF_GRACE && !loos) {
         loos = true;
         playJingle(son_defeat);
     }
@@ -79,7 +82,7 @@ void Game::releaseEnnemis() {
 }
 
 
-void Game::collide() {
+void Game::resolveCollisions() {
     using Encounters = Duo<Entity*, std::vector<Entity*>>;
     std::vector<Encounters> entitys;
     const auto add = [&entitys](Entity* entity) { entitys.emplace_back(entity, std::vector<Entity*>()); };
@@ -105,7 +108,7 @@ void Game::collide() {
 
 
 void Game::updateBetwenWave(const double& dt) {
-    if (continueToPlay || timeBeforeNextWave > countdownHolds)
+    if (continueToPlay || timeBeforeNextWave > COUNTDOWN_HOLDS)
         timeBeforeNextWave -= dt;
 
     if (timeBeforeNextWave <= 0.0) {
@@ -116,26 +119,27 @@ void Game::updateBetwenWave(const double& dt) {
         startNewWave();
     }
 
-    if (drainEnds < timeBeforeNextWave && timeBeforeNextWave < drainBegins)
+    if (DRAIN_ENDS < timeBeforeNextWave && timeBeforeNextWave < DRAIN_BEGINS)
         drainWater();
-    if (timeBeforeNextWave < drainEnds && !finalWaterLeft && isInBetwenWave)
+    if (timeBeforeNextWave < DRAIN_ENDS && !finalWaterLeft && isInBetwenWave)
         payOut();
 }
 
 
 void Game::drainWater() {
     // The share of the water that should be left at this instant falls evenly from 1 to 0.
-    constexpr double drainLasts = drainBegins - drainEnds;
+    constexpr double DRAIN_LASTS = DRAIN_BEGINS - DRAIN_ENDS;
     const double elapsed = TIME_BETTWENN_WAVE - timeBeforeNextWave;
-    const double ratioWater = 1 - (elapsed - (TIME_BETTWENN_WAVE - drainBegins)) / drainLasts;
+    const double ratioWater = 1 - (elapsed - (TIME_BETTWENN_WAVE - DRAIN_BEGINS)) / DRAIN_LASTS;
     const double wateToLeav = waterDepart * ratioWater;
     const double diffWater = m_tower.getPureWaterLeft() - wateToLeav;
-    if (!(diffWater > 0 && wateToLeav >= 0 && m_tower.canRemoveWater(diffWater)))
+    const bool drains = diffWater > 0 && wateToLeav >= 0 && m_tower.canRemoveWater(diffWater);
+    if (!drains)
         return;
 
     argentGain += diffWater * argentParWater;
     temps_son += 1;
-    if (temps_son > stepsBetweenCoins) {
+    if (temps_son > STEPS_BETWEEN_COINS) {
         playSound(son_coinsound);
         playSound(son_pourwater);
         temps_son = 0;
@@ -156,7 +160,7 @@ void Game::shoot(const Vecteur2D& pos) {
     if (!isPlaying())
         return;
     for (Weapon* w : weapons)
-        w->shoot(Vecteur2D(pos), m_tower);
+        w->shoot(pos, m_tower);
 }
 
 

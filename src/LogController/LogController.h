@@ -35,7 +35,7 @@ public:
     template <typename T1, typename T2>
     void log(const T1& messageFirst, const T2& messageSecond) const {
         // A constant logger still writes: only its destination and prefix are fixed.
-        std::ostream& out = const_cast<std::ostream&>(outStream);
+        auto& out = const_cast<std::ostream&>(outStream);
         out << getLogMessage(messageFirst);
         const std::string second = toString(messageSecond);
         if (!second.empty())

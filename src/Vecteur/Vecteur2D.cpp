@@ -4,8 +4,8 @@
 
 namespace {
 
-constexpr double halfTurn = 180.0;
-constexpr double fullTurn = 360.0;
+constexpr double HALF_TURN = 180.0;
+constexpr double FULL_TURN = 360.0;
 
 } // namespace
 
@@ -42,15 +42,15 @@ double Vecteur2D::getAngle() const {
     const double y = coord(1);
     if (x == 0.0)
         return y > 0.0 ? 90.0 : -90.0;
-    const double angle = std::atan(y / x) / pi * halfTurn;
-    return x > 0.0 ? angle : angle + halfTurn;
+    const double angle = std::atan(y / x) / PI * HALF_TURN;
+    return x > 0.0 ? angle : angle + HALF_TURN;
 }
 
 
 double Vecteur2D::normaliserAngle(double degre) {
-    while (degre > halfTurn)
-        degre -= fullTurn;
-    while (degre <= -halfTurn)
-        degre += fullTurn;
+    while (degre > HALF_TURN)
+        degre -= FULL_TURN;
+    while (degre <= -HALF_TURN)
+        degre += FULL_TURN;
     return degre;
 }

@@ -10,7 +10,7 @@
 /// Arithmetic on it gives plain vectors, which the checked constructor turns back into positions.
 class Vecteur2D : public FixeSizeVecteur<2> {
 public:
-    static constexpr double pi = 3.141592653589793;
+    static constexpr double PI = 3.141592653589793;
 
     /// (0, 0)
     Vecteur2D();

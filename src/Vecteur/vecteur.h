@@ -22,7 +22,7 @@ public:
     /// Takes the components of `vect`, however many there are.
     Vecteur& operator=(const Vecteur& vect) = default;
 
-    // The virtual operations, in the order of their slots.
+    // What a vector of a fixed dimension may do in its own way.
 
     /// Sets component `x` to `val`; raises VECTEUR_READ_VALUE_INCORRECT outside the vector.
     virtual void setCoord(double val, size_t x);

@@ -15,9 +15,10 @@ void Wave::addEnnemi(const Ennemi& e, const unsigned int& n) { m_ennemis.insert(
 void Wave::spawnEnnemi(const Vecteur2D& pos) {
     if (currentPosToSpawnEnnemi >= m_ennemis.size())
         return;
-    Ennemi& next = m_ennemis[currentPosToSpawnEnnemi++];
+    Ennemi& next = m_ennemis[currentPosToSpawnEnnemi];
     next.setPosition(pos);
     ennemisInGame.push_back(next);
+    ++currentPosToSpawnEnnemi;
 }
 
 

@@ -15,12 +15,14 @@ public:
     Wave(const double& timeDiffBetwenSpawn);
     Wave(const Wave& wave) = default;
     Wave& operator=(const Wave& wave) = default;
+    Wave(Wave&& wave) = default;
+    Wave& operator=(Wave&& wave) = default;
     virtual ~Wave() = default;
 
     /// Appends `n` copies of `e` to the roster.
     void addEnnemi(const Ennemi& e, const unsigned int& n);
-    /// Releases the next grunt of the roster at `pos` (pixels), if there is one left. Pointers to released
-    /// grunts end here: their vector grows.
+    /// Releases the next grunt of the roster at `pos` (pixels), if there is one left. Invalidates pointers to
+    /// released grunts.
     void spawnEnnemi(const Vecteur2D& pos);
 
     /// The size of the roster, released or not.

@@ -3,8 +3,7 @@
 
 #include "exception/ExceptionType.h"
 
-// The kinds of error. The vectors raise the first two; the rest of the table is shared with the tools
-// around the game, so its numbers never change meaning.
+// The kinds of error. The vectors raise the first two. Numbers are never reused, so that old logs stay readable.
 
 const ExceptionType VECTEUR_SIZE_INCORRECT(1, " les vecteurs sont de la mauvaise taille pour cette action ",
                                            "vecteurSizeIncorect");
