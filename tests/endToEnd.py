@@ -1,0 +1,59 @@
+#!/usr/bin/python3
+"""The real program, seen and heard: a whole session, and games with broken files closed by their window.
+
+    endToEnd.py PROGRAM
+"""
+import os
+import shutil
+import sys
+import tempfile
+
+from session import Window, differs, play
+
+# The mixer writes what it mixed, in real time.
+DISK_AUDIO = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIODELAY": "23"}
+
+
+def loudest(stream, start=0):
+    """The loudest sample of a recorded stream, of 32767."""
+    with open(stream, "rb") as file:
+        file.seek(start)
+        samples = memoryview(file.read()[: (os.path.getsize(stream) - start) // 2 * 2]).cast("h")
+    return max(map(abs, samples), default=0)
+
+
+def broken_game(program, directory, stream):
+    """Starts the program in `directory`, buys a turret and closes the window; how loud was the purchase?"""
+    with Window(program, directory, SDL_DISKAUDIOFILE=stream, **DISK_AUDIO) as window:
+        before = window.until("a first picture", lambda p: os.path.exists(stream) and any(p))
+        window.do("key", "a")
+        start = os.path.getsize(stream) // 4 * 4
+        window.click(992, 600)
+        window.click(640, 480)
+        window.until("the field", lambda p: differs(p, before, 0, 0, 1024, 768) > 0.01)
+        window.do("sleep", 1)
+        window.close()
+        window.ended()
+    return loudest(stream, start)
+
+
+program = os.path.abspath(sys.argv[1])
+with tempfile.TemporaryDirectory() as scratch:
+    song = os.path.join(scratch, "session.raw")
+    play(program, os.path.join(scratch, "pictures"), SDL_DISKAUDIOFILE=song, **DISK_AUDIO)
+    assert loudest(song) > 100, "the session was silent"
+
+    # Nothing to load at all: white and silent.
+    os.mkdir(nowhere := os.path.join(scratch, "nowhere"))
+    assert broken_game(program, nowhere, os.path.join(scratch, "nowhere.raw")) == 0
+
+    # Without music the only sound is that of the turret; the other files are empty, cut or noise.
+    shutil.copytree("Assets", os.path.join(broken := os.path.join(scratch, "broken"), "Assets"))
+    shutil.rmtree(os.path.join(broken, "Assets/music"))
+    for number, path in enumerate(sorted(entry.path for entry in os.scandir(os.path.join(broken, "Assets/img")))):
+        with open(path, "r+b") as file:
+            whole = file.read()
+            file.seek(0)
+            file.truncate()
+            file.write([b"", whole[: len(whole) // 2], os.urandom(5000)][number % 3])
+    assert broken_game(program, broken, os.path.join(scratch, "broken.raw")) > 100, "the purchase was not heard"
