@@ -4,10 +4,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdio>
 #include <cstring>
 #include <fstream>
-#include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -65,7 +64,7 @@ GLuint loadTexture(const char* filename, bool useMipMap) {
         return 0;
 
     SDL_PixelFormat format = *picture_surface->format;
-    format.palette = nullptr;
+    format.palette = nullptr; // an all-black one would pass for a missing one
     format.BitsPerPixel = 32;
     format.BytesPerPixel = 4;
     format.Rmask = RED_MASK;
@@ -93,15 +92,6 @@ GLuint loadTexture(const char* filename, bool useMipMap) {
     SDL_FreeSurface(gl_surface);
     SDL_FreeSurface(picture_surface);
     return glID;
-}
-
-
-GLuint sharedTexture(const char* filename) {
-    static std::map<std::string, GLuint> textures;
-    const auto known = textures.find(filename);
-    if (known != textures.end())
-        return known->second;
-    return textures[filename] = loadTexture(filename, true);
 }
 
 
@@ -151,7 +141,7 @@ void playSound(Mix_Chunk* son, int channel) {
 
 
 int takeScreenshot(const char* filename) {
-    GLint viewport[4];
+    GLint viewport[4] = {};
     glGetIntegerv(GL_VIEWPORT, viewport);
 
     SDL_Surface* picture = newRGBASurface(viewport[2], viewport[3]);
@@ -238,8 +228,8 @@ int XPMFromImage(const char* imagefile, const char* XPMfile) {
     if (image == nullptr)
         return -1;
 
-    // Without this a blit would leave the copy's alpha at 0 instead of taking the image's own.
     SDL_Surface* image32bits = newRGBASurface(image->w, image->h);
+    // Without this the blit would leave the copy's alpha at 0 instead of taking the image's own.
     SDL_SetAlpha(image, 0, SDL_ALPHA_OPAQUE);
     SDL_UpperBlit(image, nullptr, image32bits, nullptr);
     SDL_FreeSurface(image);
@@ -275,7 +265,7 @@ SDL_Cursor* cursorFromXPM(const char** xpm) {
     constexpr int FIRST_PIXEL_ROW = 4;
     int width = 0;
     int height = 0;
-    std::istringstream(xpm[0]) >> width >> height;
+    std::sscanf(xpm[0], "%d %d", &width, &height); // NOLINT(cert-err33-c,cert-err34-c): must be well formed
 
     std::vector<Uint8> data(static_cast<std::size_t>(width / 8) * height, 0);
     std::vector<Uint8> mask(data);
@@ -293,7 +283,6 @@ SDL_Cursor* cursorFromXPM(const char** xpm) {
 
     int hot_x = 0;
     int hot_y = 0;
-    char comma = ',';
-    std::istringstream(xpm[FIRST_PIXEL_ROW + height]) >> hot_x >> comma >> hot_y;
+    std::sscanf(xpm[FIRST_PIXEL_ROW + height], "%d,%d", &hot_x, &hot_y); // NOLINT(cert-err33-c,cert-err34-c)
     return SDL_CreateCursor(data.data(), mask.data(), width, height, hot_x, hot_y);
 }

@@ -12,10 +12,6 @@
 /// and makes no texture, for a file that can't be loaded.
 GLuint loadTexture(const char* filename, bool useMipMap);
 
-/// The mipmapped texture of a picture that many objects share: its file is read once in the life of the program's one
-/// window, also when it can't be loaded (the answer is then 0 for good).
-GLuint sharedTexture(const char* filename);
-
 /// A part of a texture, in texture coordinates from 0 to 1.
 struct TextureArea {
     double left, bottom, right, top;
@@ -32,7 +28,7 @@ void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, co
 void drawDigits(GLuint texture, int number, int count, double w, double h);
 
 /// Emits the corners of one quad into an open batch of quads, lower left, upper left, upper right, lower right: the
-/// ground and the wave panel go round this way, the other way than drawTexturedQuad.
+/// other way round than drawTexturedQuad.
 void clockwiseQuadVertices(double x, double y, double w, double h, const TextureArea& area = WHOLE_TEXTURE);
 
 /// Lets the mixer choose the first free channel.

@@ -8,33 +8,31 @@ import shutil
 import sys
 import tempfile
 
-from session import Window, differs, play
+sys.path.insert(0, "packaging")
+from session import Window, play
 
 # The mixer writes what it mixed, in real time.
 DISK_AUDIO = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIODELAY": "23"}
 
 
-def loudest(stream, start=0):
+def loudest(stream):
     """The loudest sample of a recorded stream, of 32767."""
     with open(stream, "rb") as file:
-        file.seek(start)
-        samples = memoryview(file.read()[: (os.path.getsize(stream) - start) // 2 * 2]).cast("h")
-    return max(map(abs, samples), default=0)
+        samples = file.read()
+    return max(map(abs, memoryview(samples[: len(samples) // 2 * 2]).cast("h")), default=0)
 
 
 def broken_game(program, directory, stream):
-    """Starts the program in `directory`, buys a turret and closes the window; how loud was the purchase?"""
+    """Starts the program in `directory`, buys a turret and closes the window; how loud did it get?"""
     with Window(program, directory, SDL_DISKAUDIOFILE=stream, **DISK_AUDIO) as window:
-        before = window.until("a first picture", lambda p: os.path.exists(stream) and any(p))
+        window.until("a window", lambda picture: window.windows()[1])
         window.do("key", "a")
-        start = os.path.getsize(stream) // 4 * 4
         window.click(992, 600)
         window.click(640, 480)
-        window.until("the field", lambda p: differs(p, before, 0, 0, 1024, 768) > 0.01)
         window.do("sleep", 1)
         window.close()
         window.ended()
-    return loudest(stream, start)
+    return loudest(stream)
 
 
 program = os.path.abspath(sys.argv[1])

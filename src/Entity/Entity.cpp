@@ -1,6 +1,10 @@
 #include "Entity/Entity.h"
 
 #include "Game/Game.h"
+#include "sdlglutils.h"
+
+#include <map>
+#include <string>
 
 Entity::Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate, double collideBoxWidth,
                double collideBoxHeigth)
@@ -51,6 +55,15 @@ bool Entity::isColliding(Entity& entity) const {
     if (!isSolide() || !entity.isSolide() || &entity == this || !isActivate || !entity.getIsActivate())
         return false;
     return collideBoxWidth + entity.getCollideBoxWidth() > entity.distanceTo(position);
+}
+
+
+GLuint Entity::sharedTexture(const char* filename) {
+    static std::map<std::string, GLuint> textures;
+    const auto known = textures.find(filename);
+    if (known != textures.end())
+        return known->second;
+    return textures[filename] = loadTexture(filename, true);
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "Vecteur/Vecteur2D.h"
 
+#include <SDL_opengl.h>
+
 class Beam;
 class Ennemi;
 class Game;
@@ -66,6 +68,10 @@ private:
 
 protected:
     bool isActivate;
+
+    /// The texture of a picture that many objects show: its file is read once in the life of the program's one window,
+    /// also when it can't be loaded (the answer is then 0 for good).
+    static GLuint sharedTexture(const char* filename);
 
     // What jets and grunts share when they burst: one sheet of eight frames, a row for each of them.
 

@@ -14,12 +14,12 @@ std::string twoDigits(int number) {
 } // namespace
 
 
-LogController::LogController(std::ostream& outStream, std::string additionalString)
-    : additionalString(std::move(additionalString)), outStream(outStream) {}
+LogController::LogController(std::ostream& outStreamPara, std::string additionalStringPara)
+    : additionalString(std::move(additionalStringPara)), outStream(outStreamPara) {}
 
 
 std::string LogController::timeStamp() {
-    const auto now = static_cast<int32_t>(time(nullptr));
+    const auto now = static_cast<std::int32_t>(std::time(nullptr));
     const int sec = now % 60;
     const int minute = now / 60 % 60;
     const int heure = (now / 3600 + 1) % 24;

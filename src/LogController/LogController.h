@@ -10,8 +10,8 @@
 /// A logger: writes time-stamped lines with a fixed prefix to one stream.
 class LogController {
 public:
-    /// Logs to `outStream`, which must outlive the logger; an empty prefix is left out of the lines.
-    LogController(std::ostream& outStream, std::string additionalString);
+    /// Logs to `outStreamPara`, which must outlive the logger; an empty prefix is left out of the lines.
+    LogController(std::ostream& outStreamPara, std::string additionalStringPara);
     virtual ~LogController() = default;
 
     /// The line "HH:MM:SS prefix message" without its end.
@@ -34,7 +34,6 @@ public:
     /// Writes one line of two messages and flushes; an empty second message leaves no trailing space.
     template <typename T1, typename T2>
     void log(const T1& messageFirst, const T2& messageSecond) const {
-        // A constant logger still writes: only its destination and prefix are fixed.
         auto& out = const_cast<std::ostream&>(outStream);
         out << getLogMessage(messageFirst);
         const std::string second = toString(messageSecond);
@@ -48,6 +47,7 @@ private:
     static std::string timeStamp();
 
     std::string additionalString;
+    // Constant, so that nothing but log() writes to it.
     const std::ostream& outStream;
 };
 

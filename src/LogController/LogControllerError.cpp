@@ -1,3 +1,3 @@
 #include "LogController/LogControllerError.h"
 
-LogControllerError::LogControllerError(std::ostream& outStream) : LogController(outStream, "[Error]") {}
+LogControllerError::LogControllerError(std::ostream& outStreamPara) : LogController(outStreamPara, "[Error]") {}

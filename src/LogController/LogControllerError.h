@@ -6,8 +6,8 @@
 /// The logger of errors: its lines carry the prefix "[Error]".
 class LogControllerError : public LogController {
 public:
-    /// Logs to `outStream`, which must outlive the logger.
-    LogControllerError(std::ostream& outStream);
+    /// Logs to `outStreamPara`, which must outlive the logger.
+    LogControllerError(std::ostream& outStreamPara);
 };
 
 #endif

@@ -2,8 +2,6 @@
 #define FIXE_SIZE_VECTEUR_H
 
 #include "Vecteur/vecteur.h"
-#include "exception/exception.h"
-#include "exception/exceptionTypeDef.h"
 
 #include <array>
 #include <initializer_list>
@@ -17,17 +15,17 @@ class FixeSizeVecteur : public Vecteur {
 public:
     FixeSizeVecteur(const std::initializer_list<double>& liste) : Vecteur(liste) {
         if (size() != N)
-            throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+            refuseSize(__LINE__, __FILE__, __func__);
     }
 
     FixeSizeVecteur(std::vector<double> coords) : Vecteur(std::move(coords)) {
         if (size() != N)
-            throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+            refuseSize(__LINE__, __FILE__, __func__);
     }
 
     FixeSizeVecteur(const Vecteur& vect) : Vecteur(vect) {
         if (size() != N)
-            throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+            refuseSize(__LINE__, __FILE__, __func__);
     }
 
     /// N components, each equal to `value`.
@@ -39,7 +37,7 @@ public:
     ~FixeSizeVecteur() override = default;
 
     /// Always raises VECTEUR_SIZE_INCORRECT: the dimension is fixed.
-    void addDim(double /*x*/) override { throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT); }
+    void addDim(double /*x*/) override { refuseSize(__LINE__, __FILE__, __func__); }
 };
 
 #endif

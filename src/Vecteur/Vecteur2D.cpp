@@ -41,7 +41,7 @@ double Vecteur2D::getAngle() const {
     const double x = coord(0);
     const double y = coord(1);
     if (x == 0.0)
-        return y > 0.0 ? 90.0 : -90.0;
+        return y > 0.0 ? HALF_TURN / 2 : -HALF_TURN / 2;
     const double angle = std::atan(y / x) / PI * HALF_TURN;
     return x > 0.0 ? angle : angle + HALF_TURN;
 }

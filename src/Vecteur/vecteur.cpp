@@ -1,6 +1,5 @@
 #include "Vecteur/vecteur.h"
 
-#include "exception/exception.h"
 #include "exception/exceptionTypeDef.h"
 
 #include <cmath>
@@ -63,14 +62,14 @@ void Vecteur::affiche() const { std::cout << toString() << std::endl; }
 
 bool Vecteur::compare(const Vecteur& vectCompare) const {
     if (size() != vectCompare.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     return coords == vectCompare.coords;
 }
 
 
 Vecteur Vecteur::plus(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     Vecteur result;
     for (size_t i = 0; i < size(); ++i)
         result.addDim(coords[i] + vectAutre.coords[i]);
@@ -80,7 +79,7 @@ Vecteur Vecteur::plus(const Vecteur& vectAutre) const {
 
 Vecteur Vecteur::moins(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     Vecteur result;
     for (size_t i = 0; i < size(); ++i)
         result.addDim(coords[i] - vectAutre.coords[i]);
@@ -106,7 +105,7 @@ Vecteur Vecteur::mult(double x) const {
 
 Vecteur Vecteur::scale(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     Vecteur result;
     for (size_t i = 0; i < size(); ++i)
         result.addDim(coords[i] * vectAutre.coords[i]);
@@ -116,7 +115,7 @@ Vecteur Vecteur::scale(const Vecteur& vectAutre) const {
 
 double Vecteur::prodScal(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     double sum = 0.0;
     for (size_t i = 0; i < size(); ++i)
         sum += coords[i] * vectAutre.coords[i];
@@ -126,7 +125,7 @@ double Vecteur::prodScal(const Vecteur& vectAutre) const {
 
 Vecteur Vecteur::prodVect(const Vecteur& vectAutre) const {
     if (size() != 3 || vectAutre.size() != 3)
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     Vecteur result;
     for (size_t i = 0; i < 3; ++i) {
         const size_t j = (i + 1) % 3;
@@ -154,7 +153,7 @@ Vecteur Vecteur::normalise() const {
 // The norm of the difference, without building the difference: every pair of objects asks for it.
 double Vecteur::distance(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
-        return moins(vectAutre).norme();
+        moins(vectAutre); // raises
     double sum = 0.0;
     for (size_t i = 0; i < size(); ++i) {
         const double difference = coords[i] - vectAutre.coords[i];
@@ -166,7 +165,7 @@ double Vecteur::distance(const Vecteur& vectAutre) const {
 
 Vecteur& Vecteur::operator+=(const Vecteur& vect) {
     if (size() != vect.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     for (size_t i = 0; i < size(); ++i)
         coords[i] += vect.coords[i];
     return *this;
@@ -175,7 +174,7 @@ Vecteur& Vecteur::operator+=(const Vecteur& vect) {
 
 Vecteur& Vecteur::operator-=(const Vecteur& vect) {
     if (size() != vect.size())
-        throw Exception(__LINE__, __FILE__, __func__, VECTEUR_SIZE_INCORRECT);
+        refuseSize(__LINE__, __FILE__, __func__);
     for (size_t i = 0; i < size(); ++i)
         coords[i] -= vect.coords[i];
     return *this;
@@ -203,6 +202,11 @@ Vecteur Vecteur::getSubVecteur(const size_t& strat, const size_t& finish) const 
     for (size_t i = strat; i <= finish; ++i)
         result.addDim(coord(i));
     return result;
+}
+
+
+void Vecteur::refuseSize(int line, const char* file, const char* function) {
+    throw Exception(line, file, function, VECTEUR_SIZE_INCORRECT);
 }
 
 

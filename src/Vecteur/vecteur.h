@@ -1,6 +1,8 @@
 #ifndef VECTEUR_H
 #define VECTEUR_H
 
+#include "exception/exception.h"
+
 #include <cstddef>
 #include <initializer_list>
 #include <ostream>
@@ -75,18 +77,18 @@ public:
     /// does beyond the end.
     Vecteur getSubVecteur(const size_t& strat, const size_t& finish) const;
 
+protected:
+    /// Raises an Exception of the kind VECTEUR_SIZE_INCORRECT for the place that it is called from.
+    [[noreturn]] static void refuseSize(int line, const char* file, const char* function);
+
 private:
     std::vector<double> coords;
 };
 
 // The results are constant on purpose: assigning to a sum is always a slip of the pen.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wignored-qualifiers"
 
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2);
 const Vecteur operator-(Vecteur vect1, const Vecteur& vect2);
-/// The dot product.
-const double operator*(const Vecteur& vect1, const Vecteur& vect2);
 /// The cross product.
 const Vecteur operator^(const Vecteur& vect1, const Vecteur& vect2);
 const Vecteur operator-(const Vecteur& vect);
@@ -94,6 +96,13 @@ const Vecteur operator*(const double& scal, const Vecteur& vect);
 const Vecteur operator*(const Vecteur& vect, const double& scal);
 /// Multiplies by 1 / `scal`, which is not checked: dividing by zero gives infinities.
 const Vecteur operator/(const Vecteur& vect, const double& scal);
+
+// Constant as the others are; on plain numbers it has no effect, which a compiler may remark on.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wignored-qualifiers"
+
+/// The dot product.
+const double operator*(const Vecteur& vect1, const Vecteur& vect2);
 /// Raises VECTEUR_SIZE_INCORRECT, rather than answering no, for vectors of different dimensions.
 const bool operator==(const Vecteur& vect1, const Vecteur& vect2);
 const bool operator!=(const Vecteur& vect1, const Vecteur& vect2);

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-ExceptionType::ExceptionType(unsigned int exceptionNumber, std::string description, std::string name)
-    : exceptionNumber(exceptionNumber), description(std::move(description)), name(std::move(name)) {}
+ExceptionType::ExceptionType(unsigned int exceptionNumberPara, std::string descriptionPara, std::string namePara)
+    : exceptionNumber(exceptionNumberPara), description(std::move(descriptionPara)), name(std::move(namePara)) {}
 
 
 unsigned int ExceptionType::getExceptionNumber() const { return exceptionNumber; }

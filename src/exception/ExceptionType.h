@@ -7,7 +7,7 @@
 /// log. Every source file has its own copies of the kinds, so compare numbers, never addresses.
 class ExceptionType {
 public:
-    ExceptionType(unsigned int exceptionNumber, std::string description, std::string name);
+    ExceptionType(unsigned int exceptionNumberPara, std::string descriptionPara, std::string namePara);
 
     unsigned int getExceptionNumber() const;
     std::string getDescription() const;

@@ -27,7 +27,7 @@ public:
 private:
     const int line;
     const std::string fileName;
-    const std::string functionName;
+    const std::string functionName; // for the debugger, not part of the text
     const ExceptionType exceptionType;
     const std::string additionalString;
 };

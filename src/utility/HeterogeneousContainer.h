@@ -1,7 +1,7 @@
 #ifndef HETEROGENEOUS_CONTAINER_H
 #define HETEROGENEOUS_CONTAINER_H
 
-/// Two values of different types, held by value: in the collision pass an entity and the entities that it
+/// Two values of any types, held by value: in the collision pass an entity and the entities that it
 /// touches. Pointers in it own nothing.
 template <typename Type1, typename Type2>
 class Duo {
@@ -9,6 +9,8 @@ public:
     Duo(const Type1& t1, const Type2& t2) : t1(t1), t2(t2) {}
     Duo(const Duo&) = default;
     Duo& operator=(const Duo&) = default;
+    Duo(Duo&&) = default;
+    Duo& operator=(Duo&&) = default;
     virtual ~Duo() = default;
 
     Type1& getFirst() { return t1; }

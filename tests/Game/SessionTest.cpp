@@ -1,6 +1,5 @@
 #include "Game/play.h"
 
-#include <cmath>
 
 // One whole game, from the first turret to the defeat: a line for every step in which something is heard or a grunt
 // enters, with the pure water that is left. The player fires one volley at step 1500, and without end after step 5400.
@@ -9,6 +8,7 @@ TEST_F(Play, aWholeGameGoesByTheRules) {
     game.poserTourelle(352, 352);
     game.poserTourelle(352, 416);
     standin::Words heard;
+    unsigned long long hash = 14695981039346656037ULL;
     for (int step = 1; step <= 7500; ++step) {
         standin::clear();
         standin::nanoseconds = step < 2000 ? standin::fromLeft : standin::fromTop;
@@ -23,6 +23,10 @@ TEST_F(Play, aWholeGameGoesByTheRules) {
         const long pureWater = std::lround(game.getTower().getPureWaterLeft());
         if (!line.empty())
             heard.push_back(std::to_string(step) + " " + line + std::to_string(pureWater));
+        if (step % 7 == 0)
+            for (const std::string& drawn : frame("", 352, 390))
+                for (const char letter : drawn)
+                    hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211ULL;
     }
     const std::string coins = " coin@-1 pour@-1 ";
     const standin::Words expected{
@@ -43,10 +47,6 @@ TEST_F(Play, aWholeGameGoesByTheRules) {
     EXPECT_EQ(heard, expected);
     EXPECT_EQ(money(), 98 * 20 + 70 * 20);
 
-    // Recorded, not worked out: whatever else changes the last picture changes this number.
-    unsigned long long hash = 14695981039346656037ULL;
-    for (const std::string& line : frame())
-        for (const char letter : line)
-            hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211ULL;
-    EXPECT_EQ(hash, 5863697629914557874ULL);
+    // Recorded, not worked out: whatever else changes a picture changes this number.
+    EXPECT_EQ(hash, 11583009071225223345ULL);
 }
