@@ -1,7 +1,6 @@
 #include "sdlglutils.h"
 #include "standin/standin.h"
 
-
 TEST(Pictures, standUprightAndAreMissingOnlyForMissingFiles) {
     standin::image = {1, 2, 3, 4, 5, 6, 7, 8};
     EXPECT_NE(loadTexture("a.png", true), 0U);

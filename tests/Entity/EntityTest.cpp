@@ -96,8 +96,8 @@ TEST_F(Combat, aTurretFiresWhenReadyInRangeAndPaidFor) {
     const size_t read = standin::textures.size();
     EXPECT_TRUE(turret.shoot({100, 100}, tower)) << "the last unit does";
     EXPECT_EQ(standin::textures.size(), read) << "no shot reads its pictures again";
-    step(turret, 300);
+    step(turret, 50), tower.refil(9), turret.shoot({100, 200}, tower), turret.update(10, game);
     EXPECT_EQ(picture(turret), (Words{"WaterTurret_64x64 68,68 132,68 132,132",
                                       "VorelDefence_projectile 100,110 100,100.4 109.6,100.4"}))
-        << "jets beyond their range are gone, the one fired at the turret itself stays";
+        << "two jets are beyond their range at once, the one fired at the turret itself stays";
 }

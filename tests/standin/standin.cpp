@@ -70,7 +70,7 @@ extern "C" {
 time_t time(time_t*) noexcept { return calendar; }
 
 int rand() noexcept {
-    const int roll = dice.empty() ? 99 : dice.front();
+    const int roll = dice.empty() ? 60 : dice.front();
     return dice.empty() ? roll : (dice.pop_front(), roll);
 }
 

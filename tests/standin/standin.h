@@ -41,7 +41,7 @@ extern std::function<void()> onFrame;
 extern long long calendar, nanoseconds, entered, work;
 /// Seeds with which a grunt enters at (-30, 351.9975), left of the tower, and at (511.9981, 798), above it.
 constexpr long long fromLeft = 60911, fromTop = 224874;
-/// What rand() answers next; once it is used up, 99: no patches on the ground.
+/// What rand() answers next; once it is used up, 60: no patches on the ground.
 extern std::deque<int> dice;
 
 /// Forgets what was drawn, played, called and entered.
