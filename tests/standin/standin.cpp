@@ -11,7 +11,7 @@
 namespace standin {
 
 Words drawn, played, calls, textures{"no picture"};
-Bytes image(16, 255), texels;
+Bytes image(16, 255), texels, saved(100);
 std::string session;
 std::function<void()> onFrame;
 long long calendar = 0, nanoseconds = fromLeft, entered = 0, work = 0;
@@ -117,8 +117,10 @@ void glTexImage2D(GLenum, GLint, GLint, GLsizei, GLsizei, GLint, GLenum, GLenum,
 GLint gluBuild2DMipmaps(GLenum, GLint, GLsizei w, GLsizei h, GLenum, GLenum, const void* pixels) {
     return texels.assign(static_cast<const Uint8*>(pixels), static_cast<const Uint8*>(pixels) + 4 * w * h), 0;
 }
-void glGetIntegerv(GLenum, GLint*) {}
-void glReadPixels(GLint, GLint, GLsizei, GLsizei, GLenum, GLenum, void*) {}
+void glGetIntegerv(GLenum, GLint* viewport) { viewport[2] = 1, viewport[3] = static_cast<GLint>(texels.size() / 4); }
+void glReadPixels(GLint, GLint, GLsizei, GLsizei, GLenum, GLenum, void* pixels) {
+    std::copy(texels.begin(), texels.end(), static_cast<Uint8*>(pixels));
+}
 
 // The mixer
 
@@ -143,7 +145,14 @@ SDL_Surface* IMG_Load(const char* file) {
     const int h = open(file) == "nowhere" ? 0 : static_cast<int>(image.size() / 4);
     return h == 0 ? nullptr : SDL_CreateRGBSurfaceFrom(image.data(), 1, h, 32, 4, 0xFF000000, 0xFF0000, 0xFF00, 0xFF);
 }
-SDL_RWops* SDL_RWFromFile(const char* file, const char*) { return open(file), nullptr; }
+SDL_RWops* SDL_RWFromFile(const char* file, const char* mode) {
+    const bool writes = open(file) != "nowhere" && *mode == 'w';
+    return writes ? SDL_RWFromMem(saved.data(), static_cast<int>(saved.size())) : (SDL_SetError("nowhere"), nullptr);
+}
+SDL_Cursor* SDL_CreateCursor(Uint8* data, Uint8* mask, int w, int h, int hot_x, int hot_y) {
+    texels.assign(data, data + w / 8 * h), texels.insert(texels.end(), mask, mask + w / 8 * h);
+    return say("cursor", w, h, hot_x, hot_y), nullptr;
+}
 int SDL_Init(Uint32 what) { return ticks = 0, say("init", what == SDL_INIT_VIDEO); }
 void SDL_Quit() { say("quit"); }
 void SDL_WM_SetCaption(const char* title, const char*) { say("caption", title); }

@@ -26,8 +26,9 @@ using Bytes = std::vector<Uint8>;
 extern Words drawn, played, calls, textures;
 
 /// What every picture file holds, as alpha, blue, green and red from the top, one pixel a row ("nowhere" has none), and
-/// the bytes of the last texture made, row by row from the bottom.
-extern Bytes image, texels;
+/// the bytes of the last texture made, row by row from the bottom, which the screen shows too, or those of the last
+/// cursor, data and mask. And what was saved last.
+extern Bytes image, texels, saved;
 
 /// A session with the window, and what to do when a frame is shown. A space ends a frame; a deed is a key by its
 /// letter, _ for the space bar and E for escape; S presses the left button and W the wheel on the shop's button, 1 and
