@@ -9,8 +9,6 @@ public:
     Duo(const Type1& t1, const Type2& t2) : t1(t1), t2(t2) {}
     Duo(const Duo&) = default;
     Duo& operator=(const Duo&) = default;
-    Duo(Duo&&) = default;
-    Duo& operator=(Duo&&) = default;
     virtual ~Duo() = default;
 
     Type1& getFirst() { return t1; }
