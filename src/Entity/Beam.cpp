@@ -42,8 +42,10 @@ double Beam::getWidth() const { return width; }
 
 
 void Beam::update(const double& dt, const Game& /*game*/) {
-    if (getIsActive() && !explose)
-        setPosition(Vecteur2D(getPos() + dir.normalise() * dt * speed));
+    // Along the direction brought to length 1; a jet without a direction stays where it is.
+    const double n = dir.norme();
+    if (getIsActive() && !explose && n != 0.0)
+        move(dir[0] * (1.0 / n) * dt * speed, dir[1] * (1.0 / n) * dt * speed);
 
     if (explose && advanceExplosion(dt, delta_temps, sprite))
         isActive = false;
@@ -54,9 +56,8 @@ void Beam::draw(const double& /*dt*/) const {
     if (!getIsActive())
         return;
 
-    const Vecteur2D pos = getPos();
-    const double x = pos[0];
-    const double y = pos[1];
+    const double x = getX();
+    const double y = getY();
     const double t = 0.3;
     const double tx = Game::largeur_case;
     const double ty = Game::hauteur_case;

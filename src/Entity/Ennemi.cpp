@@ -4,6 +4,7 @@
 #include "Game/Game.h"
 #include "sdlglutils.h"
 
+#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -66,11 +67,15 @@ void Ennemi::setPolution(double newPolution) { polution = newPolution; }
 
 
 void Ennemi::update(const double& dt, const Game& game) {
-    const Vecteur2D tower = game.getTower().getPos();
+    // Plain numbers here: those who are gone walk on unseen, and late in a game there are thousands of them.
+    const Tower& tower = game.getTower();
+    const double dx = tower.getX() - getX();
+    const double dy = tower.getY() - getY();
 
     // Nothing stops a grunt, not even its own explosion; the collision with the tower takes it away.
-    if (distanceTo(tower) != 0.0)
-        setPosition(Vecteur2D(getPos() + Vecteur(tower - getPos()).normalise() * speed * dt));
+    const double d = std::sqrt(dx * dx + dy * dy);
+    if (d != 0.0)
+        move(dx * (1.0 / d) * speed * dt, dy * (1.0 / d) * speed * dt);
 
     delta_temps += dt;
     if (delta_temps >= SECONDS_PER_WALK_FRAME) {
@@ -81,13 +86,12 @@ void Ennemi::update(const double& dt, const Game& game) {
     if (explose && advanceExplosion(dt, e_delta_temps, e_sprite))
         isActivate = false;
 
-    face(tower);
+    face(tower.getX() - getX(), tower.getY() - getY());
 }
 
 
-void Ennemi::face(const Vecteur2D& tower) {
-    const Vecteur2D dir(tower - getPos());
-    const double alpha = Vecteur2D::normaliserAngle(dir.getAngle());
+void Ennemi::face(double dx, double dy) {
+    const double alpha = Vecteur2D::normaliserAngle(Vecteur2D::angleOf(dx, dy));
     if (-45 < alpha && alpha < 45)
         direction = RIGHT;
     else if (45 < alpha && alpha < 135)
@@ -103,9 +107,8 @@ void Ennemi::draw(const double& /*dt*/) const {
     if (!isActivate)
         return;
 
-    const Vecteur2D pos = getPos();
-    const double x = pos[0];
-    const double y = pos[1];
+    const double x = getX();
+    const double y = getY();
     const double t = 1.0;
     const double tx = Game::largeur_case;
     const double ty = Game::hauteur_case;

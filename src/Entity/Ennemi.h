@@ -43,8 +43,8 @@ public:
     static Mix_Chunk* son_grunt;
 
 private:
-    /// Turns towards the tower at `tower`.
-    void face(const Vecteur2D& tower);
+    /// Turns towards what is (`dx`, `dy`) pixels away.
+    void face(double dx, double dy);
 
     GLuint m_texture;
     int direction;

@@ -54,7 +54,13 @@ void Entity::setIsSolide(bool solide) { _isSolide = solide; }
 bool Entity::isColliding(Entity& entity) const {
     if (!isSolide() || !entity.isSolide() || &entity == this || !isActivate || !entity.getIsActivate())
         return false;
-    return collideBoxWidth + entity.getCollideBoxWidth() > entity.distanceTo(position);
+    return discsOverlap(entity.getX() - getX(), entity.getY() - getY(), collideBoxWidth, entity.getCollideBoxWidth());
+}
+
+
+void Entity::move(double dx, double dy) {
+    position[0] += dx;
+    position[1] += dy;
 }
 
 

@@ -5,6 +5,8 @@
 
 #include <SDL_opengl.h>
 
+#include <cmath>
+
 class Beam;
 class Ennemi;
 class Game;
@@ -44,6 +46,9 @@ public:
     Vecteur2D getPos() const;
     Vecteur2D& getPos();
     void setPosition(const Vecteur2D& vect);
+    /// Its components, for those who ask in every step or frame: a copied position has storage of its own.
+    double getX() const { return position[0]; }
+    double getY() const { return position[1]; }
 
     /// The distance to `point` in pixels; copies and allocates nothing.
     double distanceTo(const Vecteur2D& point) const;
@@ -57,6 +62,12 @@ public:
     double getCollideBoxHeigth() const;
     void setIsSolide(bool solide);
 
+    /// Takes part in the collisions of this step: solid and in play.
+    bool canCollide() const { return isSolide() && getIsActivate(); }
+    /// Two discs overlap, given their centres' distances on both axes and their radii, all in pixels.
+    static bool discsOverlap(double dx, double dy, double radius, double otherRadius) {
+        return radius + otherRadius > std::sqrt(dx * dx + dy * dy);
+    }
     /// The discs overlap; touching at one point only does not count, nor does an object touch itself.
     bool isColliding(Entity& entity) const;
 
@@ -68,6 +79,9 @@ private:
 
 protected:
     bool isActivate;
+
+    /// Moves by (`dx`, `dy`) pixels.
+    void move(double dx, double dy);
 
     /// The texture of a picture that many objects show: its file is read once in the life of the program's one window,
     /// also when it can't be loaded (the answer is then 0 for good).

@@ -70,9 +70,8 @@ void Tower::update(const double& /*dt*/, const Game& /*game*/) {}
 
 
 void Tower::draw(const double& /*dt*/) const {
-    const Vecteur2D pos = getPos();
-    const int x = static_cast<int>(pos[0]);
-    const int y = static_cast<int>(pos[1]);
+    const int x = static_cast<int>(getX());
+    const int y = static_cast<int>(getY());
     const double t = 4.0;
     const double tx = Game::largeur_case;
     const double ty = Game::hauteur_case;

@@ -91,9 +91,8 @@ void Weapon::update(const double& time, const Game& game) {
 
 
 void Weapon::draw(const double& time) const {
-    const Vecteur2D pos = getPos();
-    const double x = pos[0];
-    const double y = pos[1];
+    const double x = getX();
+    const double y = getY();
     const double t = 2.0;
     const double tx = Game::largeur_case;
     const double ty = Game::hauteur_case;

@@ -54,7 +54,7 @@ void Game::draw(const double& dt, const double& x, const double& y) const {
         dessinerTourelleGrisee(mouseX, mouseY);
 
     constexpr double waeponRadiusForMouse = 40.0;
-    for (const Weapon* w : weapons) {
+    for (Weapon* w : weapons) {
         w->draw(dt);
         if (w->distanceTo(mousePos) < waeponRadiusForMouse && isPlaying())
             openglDrawCircle(w->getPos(), w->getRadius(), 40);

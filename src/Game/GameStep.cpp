@@ -83,27 +83,38 @@ void Game::releaseEnnemis() {
 
 
 void Game::resolveCollisions() {
-    using Encounters = Duo<Entity*, std::vector<Entity*>>;
-    std::vector<Encounters> entitys;
-    const auto add = [&entitys](Entity* entity) { entitys.emplace_back(entity, std::vector<Entity*>()); };
+    // What can be in a pair at all, in the order in which encounters count: plain numbers, for every pair of them is
+    // looked at.
+    struct Disc {
+        double x, y, radius;
+        Entity* entity;
+    };
+    std::vector<Disc> entitys;
+    const auto add = [&entitys](Entity* entity) {
+        if (entity->canCollide())
+            entitys.push_back({entity->getX(), entity->getY(), entity->getCollideBoxWidth(), entity});
+    };
+    std::vector<Ennemi>& ennemis = m_waves[currentWave].getEnnemisInGame();
+    entitys.reserve(1 + weapons.size() + ennemis.size());
     add(&m_tower);
     for (Weapon* w : weapons) {
         add(w);
         for (Beam* beam : w->getBeams())
             add(beam);
     }
-    for (Ennemi& ennemi : m_waves[currentWave].getEnnemisInGame())
+    for (Ennemi& ennemi : ennemis)
         add(&ennemi);
 
     // Find everything before anything reacts, so that no reaction makes or breaks an encounter of this step.
-    for (Encounters& one : entitys)
-        for (const Encounters& other : entitys)
-            if (one.getFirst()->isColliding(*other.getFirst()))
-                one.getSecond().push_back(other.getFirst());
+    std::vector<Duo<Entity*, Entity*>> encounters;
+    encounters.reserve(entitys.size());
+    for (const Disc& one : entitys)
+        for (const Disc& other : entitys)
+            if (Entity::discsOverlap(other.x - one.x, other.y - one.y, one.radius, other.radius) && &one != &other)
+                encounters.emplace_back(one.entity, other.entity);
 
-    for (const Encounters& one : entitys)
-        for (Entity* partner : one.getSecond())
-            one.getFirst()->collide(partner);
+    for (const auto& encounter : encounters)
+        encounter.getFirst()->collide(encounter.getSecond());
 }
 
 

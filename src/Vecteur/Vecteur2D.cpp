@@ -37,9 +37,10 @@ void Vecteur2D::setFormPolar(const double& norme, const double& angle) {
 }
 
 
-double Vecteur2D::getAngle() const {
-    const double x = coord(0);
-    const double y = coord(1);
+double Vecteur2D::getAngle() const { return angleOf(coord(0), coord(1)); }
+
+
+double Vecteur2D::angleOf(double x, double y) {
     if (x == 0.0)
         return y > 0.0 ? HALF_TURN / 2 : -HALF_TURN / 2;
     const double angle = std::atan(y / x) / PI * HALF_TURN;

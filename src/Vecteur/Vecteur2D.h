@@ -33,6 +33,8 @@ public:
 
     /// The heading in degrees from the x axis towards the y axis, from -90 up to 270; -90 for a zero vector.
     double getAngle() const;
+    /// The same of the vector (`x`, `y`).
+    static double angleOf(double x, double y);
 
     /// The same angle, finite and in degrees, above -180 and up to 180.
     static double normaliserAngle(double degre);
