@@ -9,9 +9,11 @@
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <fstream>
 #include <initializer_list>
 #include <iostream>
 
@@ -23,6 +25,18 @@ constexpr int CHANNELS = 10;
 
 // SDL counts the rows of the window from its top, the game from its bottom.
 int upwards(int mouseY) { return tailleEcranY - mouseY; }
+
+
+// The mixer refuses a file that is missing or empty, but its MP3 decoder trusts all others: bytes that are no music
+// bring it down. A track begins with a tag or with a frame of MPEG-1 layer III.
+Mix_Music* loadMusic(const char* path) {
+    std::array<unsigned char, 2> start{};
+    std::ifstream file(path, std::ios::binary);
+    file.read(reinterpret_cast<char*>(start.data()), start.size());
+    const bool tag = start[0] == 'I' && start[1] == 'D';
+    const bool frame = start[0] == 0xFF && (start[1] & 0xFE) == 0xFA;
+    return file && !tag && !frame ? nullptr : Mix_LoadMUS(path);
+}
 
 
 Mix_Chunk* loadSound(const char* path) { return Mix_LoadWAV_RW(SDL_RWFromFile(path, "rb"), 1); }
@@ -45,7 +59,7 @@ void loadSounds() {
     Game::son_cashregister = loadSound("Assets/sfx/CashRegister.wav");
     Game::son_coinsound = loadSound("Assets/sfx/CoinSound.wav");
     Game::son_pourwater = loadSound("Assets/sfx/PourWater.wav");
-    Game::son_start = Mix_LoadMUS("Assets/music/VorelDefense_TitleScreen.mp3");
+    Game::son_start = loadMusic("Assets/music/VorelDefense_TitleScreen.mp3");
     Game::son_defeat = loadSound("Assets/music/VorelDefense_GameOver.wav");
     Game::son_good_job = loadSound("Assets/music/VorelDefense_WellDone.wav");
 }
@@ -182,7 +196,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         SDL_Init(SDL_INIT_VIDEO);
         SDL_WM_SetCaption("Vorel Defense INC.", nullptr);
         openAudio();
-        Mix_Music* musique_tundrix = Mix_LoadMUS("Assets/music/Tundrix_Dubstep_RMX_v1.mp3");
+        Mix_Music* musique_tundrix = loadMusic("Assets/music/Tundrix_Dubstep_RMX_v1.mp3");
         // Textures need the window's context, so it comes before the game.
         [[maybe_unused]] SDL_Surface* ecran = SDL_SetVideoMode(tailleEcranX, tailleEcranY, 32, SDL_OPENGL);
         Game game(tailleEcranX, tailleEcranY);
