@@ -1,0 +1,16 @@
+# Turns CHANGELOG.md into a change log as Debian reads it. Each release there has the heading "## VERSION, DATE" and a
+# list; what stands before the first release is left out.
+
+function sign() {
+  if (date != "")
+    printf "\n -- %s  %s\n", maintainer, date
+}
+
+/^## [0-9]/ {
+  sign()
+  printf "%svorel-defense (%s) stable; urgency=medium\n\n", date == "" ? "" : "\n", substr($2, 1, length($2) - 1)
+  ("LC_ALL=C date -R -u -d " $3) | getline date
+}
+/^- / && date != "" { print "  * " substr($0, 3) }
+/^  / && date != "" { print "    " substr($0, 3) }
+END { sign() }
