@@ -10,7 +10,7 @@
 //     waveN       ten turrets at work 24 seconds after the beginning of wave N
 //     waterN      N units of water are left
 //     pollutionN  grunts have walked in until N units were polluted
-//     roundendN   wave N just before its end, after all of its grunts have walked in (two waves are left undefended)
+//     roundendN   wave N, from 2 to 4, undefended and just before its end: the last of its grunts is still on its way
 //     defeat      the moment before the last grunt spoils the water
 //     preview     a turret is about to be bought
 #define main SDL_main

@@ -7,7 +7,7 @@ figure of a hundred pixels and more has.
 import math
 
 import enamel
-from enamel import disc, mix, path, smooth
+from shapes import blob, circle, mix, path
 from palette import *
 
 HAT_DARK = mix(SLUDGE_VIOLET, OUTLINE, 0.5)
@@ -55,18 +55,18 @@ def _leg(hip, foot, toe, line):
 def _arm(shoulder, elbow, hand, line):
     bone = f"M{shoulder[0]} {shoulder[1]} Q{elbow[0]} {elbow[1]} {hand[0]} {hand[1]}"
     return (path(bone, "none", f'{LINE} stroke-width="{8 + 2 * line}"')
-            + disc(hand[0], hand[1], 7 + line, OUTLINE)
+            + circle(hand[0], hand[1], 7 + line, OUTLINE)
             + path(bone, "none", f'stroke="{SLUDGE}" stroke-width="8" stroke-linecap="round"')
-            + disc(hand[0], hand[1], 7, "url(#sludge)"))
+            + circle(hand[0], hand[1], 7, "url(#sludge)"))
 
 
 def _body(line, wobble=0, bald=False):
     hem = [(30 - 15 * i, -14 + (8 if (i + wobble) % 2 else 0)) for i in range(5)]
     top = [(-17, -79), (2, -85), (20, -78)] if bald else [(-17, -78), (17, -78)]
     points = [(-38, -36), (-35, -60)] + top + [(35, -60), (38, -36)] + hem
-    shape = smooth(points, 1.0)
-    spots = "".join(disc(x, y, r, SLUDGE_VIOLET, 'opacity="0.55"')
-                    + disc(x - r * 0.25, y - r * 0.3, r * 0.45, "#c98fdd", 'opacity="0.8"')
+    shape = blob(points)
+    spots = "".join(circle(x, y, r, SLUDGE_VIOLET, 'opacity="0.55"')
+                    + circle(x - r * 0.25, y - r * 0.3, r * 0.45, "#c98fdd", 'opacity="0.8"')
                     for x, y, r in ((-24, -30, 4), (-14, -22, 2.6), (25, -26, 3.4), (10, -20, 2.4), (-29, -56, 2.2)))
     hairs = ""
     if bald:
@@ -74,15 +74,15 @@ def _body(line, wobble=0, bald=False):
     return (hairs + path(shape, "url(#sludge)", _line(line)) + spots
             + path("M-31 -40 Q-33 -58 -20 -69", "none", 'stroke="#f8fcc8" stroke-width="4.5" '
                                                         'stroke-linecap="round" opacity="0.9"')
-            + disc(-29, -33, 2.2, "#f8fcc8", 'opacity="0.9"')
+            + circle(-29, -33, 2.2, "#f8fcc8", 'opacity="0.9"')
             + path("M34 -34 Q30 -20 8 -13", "none", f'stroke="{SLUDGE_LIGHT}" stroke-width="2" '
                                                     f'stroke-linecap="round" opacity="0.5"'))
 
 
 def _eye(x, y, r, look, line):
-    return (disc(x, y, r, "#fdfdf0", f'stroke="{OUTLINE}" stroke-width="{line}"')
-            + disc(x + look[0], y + look[1], r * 0.45, OUTLINE)
-            + disc(x + look[0] - r * 0.17, y + look[1] - r * 0.2, r * 0.16, "#ffffff"))
+    return (circle(x, y, r, "#fdfdf0", f'stroke="{OUTLINE}" stroke-width="{line}"')
+            + circle(x + look[0], y + look[1], r * 0.45, OUTLINE)
+            + circle(x + look[0] - r * 0.17, y + look[1] - r * 0.2, r * 0.16, "#ffffff"))
 
 
 def _hat(x, y, turn, peak, line):
@@ -101,11 +101,11 @@ def _hat(x, y, turn, peak, line):
 
 
 def _can(x, y, r, line):
-    return (disc(x, y, r, "url(#can)", f'stroke="{OUTLINE}" stroke-width="{line}"')
+    return (circle(x, y, r, "url(#can)", f'stroke="{OUTLINE}" stroke-width="{line}"')
             + "".join(path(f"M{x - r * w} {y + r * d} h{2 * r * w}", "none",
                            'stroke="#5d164e" stroke-width="1.7" stroke-linecap="round"')
                       for d, w in ((-0.3, 0.5), (0.08, 0.58), (0.46, 0.42)))
-            + disc(x - r * 0.4, y - r * 0.45, r * 0.16, "#ffffff", 'opacity="0.85"'))
+            + circle(x - r * 0.4, y - r * 0.45, r * 0.16, "#ffffff", 'opacity="0.85"'))
 
 
 def grunt(x, y, size, step=0, mood="cross", outline=2.2):
@@ -203,9 +203,9 @@ def tower(x, y, height, outline=2.6, level=0.92):
     parts.append(path(cross, "none", f'{LINE} stroke-width="{1.3 + 2 * o}"'))
     parts.append(path(cross, "none", f'stroke="{STEEL}" stroke-width="1.3"'))
     parts.append(path(cross, "none", f'stroke="{STEEL_LIGHT}" stroke-width="0.5" transform="translate(-0.2 -0.25)"'))
-    parts.append(enamel.box(-4.8, -56, 9.6, 54, 0, "url(#copper-up)", _line(o)))
+    parts.append(enamel.box(-4.8, -56, 9.6, 54, 0, "url(#copper-tube)", _line(o)))
     for ring in (-46, -22, -9):
-        parts.append(enamel.box(-6.6, ring, 13.2, 4.2, 1.2, "url(#brass-up)", _line(o)))
+        parts.append(enamel.box(-6.6, ring, 13.2, 4.2, 1.2, "url(#brass-tube)", _line(o)))
     parts.append(f'<g transform="translate(0 -32) scale({1 / k:.4f})">' + enamel.valve(0, 0, 7.6 * k) + "</g>")
     parts += [leg(-27, -33, -58, -3, 3.1), leg(27, 33, -58, -3, 3.1)]
     for foot in (-33, 33):
@@ -230,8 +230,8 @@ def tower(x, y, height, outline=2.6, level=0.92):
     parts.append('<g clip-path="url(#pane)">'
                  + path(f"M-24 {top} q6 -2.2 12 0 t12 0 t12 0 t12 0 V-60 H-24Z", "url(#pool)")
                  + path(f"M-24 {top} q6 -2.2 12 0 t12 0 t12 0 t12 0", "none", 'stroke="#ffffff" stroke-width="1"')
-                 + "".join(disc(bx, by, br, "#ffffff", 'opacity="0.35"')
-                           + disc(bx, by, br, "none", 'stroke="#ffffff" stroke-width="0.5"')
+                 + "".join(circle(bx, by, br, "#ffffff", 'opacity="0.35"')
+                           + circle(bx, by, br, "none", 'stroke="#ffffff" stroke-width="0.5"')
                            for bx, by, br in ((-13, -70, 1.8), (-9, -80, 1.2), (9, -74, 2.2), (14, -85, 1.4), (2, -66, 1.3)))
                  + path("M-19 -60 L-19 -92 Q-19 -96 -15 -96 H-8 L-13 -60Z", "#ffffff", 'opacity="0.45"')
                  + path("M-4 -97 H-1 L-6 -60 H-9Z", "#ffffff", 'opacity="0.35"') + "</g>")
@@ -263,9 +263,9 @@ def tower(x, y, height, outline=2.6, level=0.92):
                                                       'stroke-linecap="round" opacity="0.8"'))
     parts.append(path("M-40 -104 Q0 -95 40 -104", "none", f'stroke="{OUTLINE}" stroke-width="{2.4 + 2 * o}" '
                                                           f'stroke-linecap="round"'))
-    parts.append(path("M-40 -104 Q0 -95 40 -104", "none", 'stroke="url(#brass-up)" stroke-width="2.4" '
+    parts.append(path("M-40 -104 Q0 -95 40 -104", "none", 'stroke="url(#brass-tube)" stroke-width="2.4" '
                                                           'stroke-linecap="round"'))
-    parts.append(disc(0, -121.5, 2.9, "url(#rivet-brass)", _line(o)))
+    parts.append(circle(0, -121.5, 2.9, "url(#brass-ball)", _line(o)))
     return f'<g transform="translate({x} {y}) scale({k:.4f})">' + "".join(parts) + "</g>"
 
 
@@ -308,5 +308,5 @@ def turret(x, y, width, outline=2.4):
                  f'stroke-width="{o}"/>')
     parts.append(path("M-23 -28 C-23 -66 23 -66 23 -28 A23 8 0 0 1 -23 -28Z", "url(#ball)", _line(o)))
     parts.append(path("M-15 -34 Q-14 -48 -3 -51", "none", 'stroke="#ffffff" stroke-width="4" stroke-linecap="round"'))
-    parts.append(disc(11, -33, 2.6, WATER_LIGHT))
+    parts.append(circle(11, -33, 2.6, WATER_LIGHT))
     return f'<g transform="translate({x} {y}) scale({k:.4f})">' + "".join(parts) + "</g>"

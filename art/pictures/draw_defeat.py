@@ -15,7 +15,7 @@ WIDTH, HEIGHT = 1024, 256
 
 def dry_dial(x, y, r):
     """A pressure dial whose needle lies at nothing."""
-    parts = [enamel.bezel(x, y, r, 9, 2.5), enamel.disc(x, y, r, "url(#cream)")]
+    parts = [enamel.bezel(x, y, r, 9, 2.5), enamel.circle(x, y, r, "url(#cream)")]
     for i in range(11):
         angle = math.radians(225 - 27 * i)
         c, s = math.cos(angle), -math.sin(angle)

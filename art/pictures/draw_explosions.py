@@ -28,8 +28,8 @@ def splat(x, y, inner, outer, lobes, rng):
 
 def glob(x, y, r, angle, stretch):
     """A flying bit of sludge with its tail behind it."""
-    return (s.drop(x, y, r * stretch, r * 2, angle, s.SKIN_SHADE, p.OUTLINE, 2)
-            + s.drop(x - r * .12, y - r * .14, r * stretch * .8, r * 1.6, angle, s.SKIN)
+    return (s.flying_drop(x, y, r * stretch, r * 2, angle, s.SKIN_SHADE, p.OUTLINE, 2)
+            + s.flying_drop(x - r * .12, y - r * .14, r * stretch * .8, r * 1.6, angle, s.SKIN)
             + s.circle(x - r * .35, y - r * .4, r * .28, s.SKIN_LIGHT))
 
 
@@ -112,9 +112,11 @@ def splash_frame(frame):
         w = width * (1, .95, .85, .7, .52, .34, 0, 0)[frame] / 2
         if w > .5 and tip > root:
             middle = root + (tip - root) * .72
-            d = (f"M{root:.2f},{-w * .5:.2f} Q{middle * .7:.2f},{-w * .7:.2f} {middle:.2f},{-w:.2f} "
+            # while it hangs on the burst it is broad there, torn off it ends in a tail
+            tail, waist = w * (.5 if frame < 2 else .1), (root + middle) / 2
+            d = (f"M{root:.2f},{-tail:.2f} Q{waist:.2f},{-w * .6:.2f} {middle:.2f},{-w:.2f} "
                  f"A{w:.2f},{w:.2f} 0 0 1 {middle:.2f},{w:.2f} "
-                 f"Q{middle * .7:.2f},{w * .7:.2f} {root:.2f},{w * .5:.2f} Z")
+                 f"Q{waist:.2f},{w * .6:.2f} {root:.2f},{tail:.2f} Z")
             tongues.append((d, angle))
     for angle, reach, size in SPRAY:
         a = math.radians(angle)
@@ -126,19 +128,19 @@ def splash_frame(frame):
     # the outlines first, then everything inside them, so that it runs together like water
     for line, fill in ((5.6, p.WATER_DEEP), (0, None)):
         for d, angle in tongues:
-            body += s.path(d, fill or "url(#tongue)", fill, line,
-                           f'transform="translate({x0} {y0}) rotate({-angle})"')
+            body += s.path(d, fill or "url(#tongue)", stroke=fill, width=line,
+                           more=f'transform="translate({x0} {y0}) rotate({-angle})"')
         for x, y, r, angle in drops:
-            body += s.drop(x, y, r * 1.8, r * 2, -angle, fill or p.WATER_FOAM, fill, line)
+            body += s.flying_drop(x, y, r * 1.8, r * 2, -angle, fill or p.WATER_FOAM, fill, line)
         if core:
-            body += s.circle(x0 + 7.5, y0 - 7.5, core, fill or "url(#splash)", fill, line)
+            body += s.circle(x0 + 7.5, y0 - 7.5, core, fill or "url(#splash)", stroke=fill, width=line)
     return body
 
 
 BOOT = s.mix(p.SLUDGE_VIOLET, p.OUTLINE, .12)
 
-defs = (s.radial("splash", (0, "#ffffff"), (.6, p.WATER_FOAM), (1, p.WATER_LIGHT))
-        + s.linear("tongue", (0, p.WATER_FOAM), (.45, p.WATER_LIGHT), (1, p.WATER_FOAM), y2=0))
+defs = (s.radial("splash", [(0, "#ffffff"), (.6, p.WATER_FOAM), (1, p.WATER_LIGHT)])
+        + s.gradient("tongue", [(0, p.WATER_FOAM), (.45, p.WATER_LIGHT), (1, p.WATER_FOAM)], x2=1, y2=0))
 sheet = ""
 for row, draw in enumerate((grunt_frame, splash_frame)):
     for column in range(8):

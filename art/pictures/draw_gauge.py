@@ -33,8 +33,8 @@ def content():
                (82, 618, 4), (56, 590, 7), (96, 548, 4), (40, 520, 4), (74, 486, 6), (50, 436, 5), (92, 404, 5),
                (66, 360, 4), (36, 330, 6), (84, 300, 6), (56, 262, 4), (96, 244, 4)]
     for x, y, r in bubbles:
-        parts.append(enamel.disc(x, y, r * 1.25, "#ffffff", 'opacity="0.75"'))
-        parts.append(enamel.disc(x + 1, y + 1.4, r * 0.75, "#8a8a8a", 'opacity="0.45"'))
+        parts.append(enamel.circle(x, y, r * 1.25, "#ffffff", 'opacity="0.75"'))
+        parts.append(enamel.circle(x + 1, y + 1.4, r * 0.75, "#8a8a8a", 'opacity="0.45"'))
     defs = enamel.gradient("liquid", [(0, "#8c8c8c"), (0.14, "#c8c8c8"), (0.34, "#f4f4f4"), (0.6, "#dadada"),
                                       (0.86, "#a0a0a0"), (1, "#808080")], 0, 0, 1, 0)
     picture = kit.render(kit.svg(WIDTH, HEIGHT, "".join(parts), defs), WIDTH, HEIGHT)

@@ -79,8 +79,8 @@ def flower(rng, size):
 def speck(rng):
     """A flower too far away to have petals: many faint ones of all sizes hide that they repeat."""
     colour = rng.choice((p.FLOWER, p.FLOWER, s.mix(p.FLOWER, p.BRASS_LIGHT, .5), GRASS_PALE))
-    return s.circle(0, 0, rng.uniform(.35, .85), colour,
-                    more=f'opacity="{rng.uniform(.35, .85):.2f}"')
+    return s.circle(0, 0, rng.uniform(.3, .65), colour,
+                    more=f'opacity="{rng.uniform(.2, .6):.2f}"')
 
 
 def texture(body):
@@ -105,7 +105,7 @@ def levelled(pixels, keep):
 # now and then a cell of grass lies straight against the middle, the step between them is slight.
 GRASS_PALE = s.mix(p.GRASS_LIGHT, p.FLOWER, .35)
 WET, WET_LIGHT, WET_DARK = (s.mix(c, p.GRASS, share) for c, share in
-                            ((p.MEADOW, .64), (p.MEADOW_LIGHT, .5), (p.MEADOW_DARK, .6)))
+                            ((p.MEADOW, .68), (p.MEADOW_LIGHT, .45), (p.MEADOW_DARK, .5)))
 
 
 def between():
@@ -120,8 +120,8 @@ def grass():
     body = s.rect(0, 0, CELL, CELL, p.GRASS)
     body += endless(lambda r: smudge(r, (p.GRASS_LIGHT, p.GRASS_DARK), 3, .3), 3, 40, 12)
     body += between()
-    body += endless(lambda r: tuft(r, (p.GRASS_DARK,), 3, .9, .45), 5, 12, 30)
-    body += endless(lambda r: tuft(r, (p.GRASS_LIGHT,), 3.2, .9, .7), 8, 12, 30)
+    body += endless(lambda r: tuft(r, (p.GRASS_DARK,), 3.1, .9, .5), 5, 12, 30)
+    body += endless(lambda r: tuft(r, (p.GRASS_LIGHT,), 3.3, .9, .75), 8, 12, 30)
     return levelled(texture(body), .1)
 
 
@@ -136,7 +136,7 @@ def meadow():
     body += endless(lambda r: tuft(r, (WET_DARK,), 4.2, 1, .6), 15, 11, 30)
     body += endless(lambda r: tuft(r, (WET_LIGHT,), 4, .9, .8), 17, 11, 30)
     pixels = levelled(texture(body), .15)
-    flowers = kit.svg(CELL, CELL, endless(speck, 33, 22, 3))
+    flowers = kit.svg(CELL, CELL, endless(speck, 33, 44, 2))
     over = numpy.asarray(kit.render(flowers, CELL * SCALE, CELL * SCALE)).astype(float)
     cover = over[..., 3:] / 255
     return pixels * (1 - cover) + over[..., :3] * cover
@@ -188,8 +188,8 @@ def smooth(low, high, value):
 
 def shore_growth(tile, rng):
     """What grows along a shore: tufts that hang over it, reeds in the damp, clumps of flowers."""
-    # straight shores stand next to their like, where a second clump would look sown in rows
-    things, spots, clumps = [], [], 2 if tile in (1, 3, 5, 7) else 0
+    # straight shores stand next to their like, where flowers would look sown in a row
+    things, spots, clumps = [], [], 3 if tile in (1, 3, 5, 7) else 0
     for _ in range(3000):
         x, y = rng.uniform(2.5, CELL - 2.5), rng.uniform(5, CELL - 2.5)
         d = float(depth(tile, numpy.array([[x]]), numpy.array([[y]]))[0, 0])

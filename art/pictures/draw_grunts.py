@@ -13,7 +13,7 @@ import shapes as s
 FRAME = 32
 LINE = 1.4
 
-BOOT = s.mix(p.SLUDGE_VIOLET, p.OUTLINE, .35)
+BOOT = s.mix(p.SLUDGE_VIOLET, p.OUTLINE, .12)
 BOOT_LIGHT = s.mix(p.SLUDGE_VIOLET, "#ffffff", .25)
 
 # from step to step: apart, passing, apart, passing
@@ -50,14 +50,14 @@ def hand(x, y, skin=s.SKIN):
 
 def blob(x, y, frame, lean=0.0):
     """The body: round above, with a dripping hem that wobbles from step to step."""
-    w, h = 8.8 * (1 + SQUASH[frame]), 8.3 * (1 - SQUASH[frame])
+    w, h = 9.3 * (1 + SQUASH[frame]), 8.7 * (1 - SQUASH[frame])
     half = [(.62, -.93), (.97, -.5), (1.05, .02), (1.04, .5)]
     drips = [(.96, .86), (.66, .74), (.36, .96), (.08, .78), (-.3, .98), (-.6, .76), (-.94, .9)]
     drips = [(dx, dy + (.08 if (i // 2 + frame) % 2 else 0)) for i, (dx, dy) in enumerate(drips)]
     points = [(0, -1.03)] + half + drips + [(-dx, dy) for dx, dy in reversed(half)]
     outline = s.blob([(x + dx * w + lean * -dy, y + dy * h) for dx, dy in points], .55)
     inside = s.rect(0, 0, FRAME, FRAME, s.SKIN_SHADE)
-    inside += s.ellipse(x - 1.5, y - 1.2, w * 1.04, h * 1.08, s.SKIN)
+    inside += s.ellipse(x - 1.1, y - .9, w * 1.06, h * 1.1, s.SKIN)
     inside += s.path(f"M{x - w * .76:.2f},{y + h * .3:.2f} Q{x - w * .88:.2f},{y - h * .4:.2f} "
                      f"{x - w * .35:.2f},{y - h * .78:.2f}", stroke=s.SKIN_LIGHT, width=2.2)
     inside += s.circle(x + w * .5, y + h * .55, 1.1, p.SLUDGE_DARK, more='opacity="0.6"')
@@ -66,7 +66,7 @@ def blob(x, y, frame, lean=0.0):
 
 
 def eye(x, y, r, look):
-    return (s.circle(x, y, r, "#ffffff", p.OUTLINE, 1.1)
+    return (s.circle(x, y, r, "#ffffff", width=1.1)
             + s.circle(x + look[0], y + look[1], r * .47, p.OUTLINE))
 
 
@@ -117,7 +117,7 @@ def feet_and_hands(x, y, frame, away):
         near = level > 27
         drawn += leg(x + way * 3.2, 21, 16 + way * 4.1, level, 0, 1.04 if near else .9,
                      s.mix(s.SKIN, s.SKIN_SHADE, .3 if near else 1))
-    hands = "".join(hand(x + way * 9, y + 4 + (27.5 - level) * .75)
+    hands = "".join(hand(x + way * 9.4, y + 4 + (27.5 - level) * .75)
                     for level, way in ((left, -1), (right, 1)))
     return drawn, hands
 
@@ -148,6 +148,6 @@ sheet = ""
 for row, draw in enumerate((lambda f: side(f, 1), behind, lambda f: side(f, -1), front)):
     for column in range(4):
         sheet += (f'<svg x="{column * FRAME}" y="{row * FRAME}" width="{FRAME}" height="{FRAME}" '
-                  f'viewBox="0 0 {FRAME} {FRAME}"><g transform="translate(.64 1.2) scale(.96)">'
+                  f'viewBox="0 0 {FRAME} {FRAME}"><g transform="translate(-.35 -.27) scale(1.03)">'
                   f"{draw(column)}</g></svg>")
 kit.save("VorelDefense_grunts.PNG", kit.render(kit.svg(4 * FRAME, 4 * FRAME, sheet), 512, 512))

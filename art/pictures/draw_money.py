@@ -21,7 +21,7 @@ def main():
     parts.append(enamel.lettering("VOREL DEFENSE INC.", "caps", 40, 250, 214, "url(#ink-brass)", tracking=3))
     # the company's mark beside the window
     parts.append(enamel.bezel(450, 125, 22, 7, 4))
-    parts.append(enamel.disc(450, 125, 22, "url(#cream)"))
+    parts.append(enamel.circle(450, 125, 22, "url(#cream)"))
     parts.append(enamel.drop(450, 132, 12, 3))
     for x in (46, 464):
         for y in (42, 206):

@@ -6,12 +6,12 @@ from palette import *
 
 
 def main():
-    parts = [enamel.disc(33, 34, 28, OUTLINE, 'opacity="0.35" filter="url(#haze)"'),
-             enamel.disc(32, 32, 29, OUTLINE),
-             enamel.disc(32, 32, 27, "url(#brass)"),
-             enamel.disc(32, 32, 26.2, "none", f'stroke="{BRASS_LIGHT}" stroke-width="1"'),
-             enamel.disc(32, 32, 23, OUTLINE),
-             enamel.disc(32, 32, 21.6, "url(#cream)")]
+    parts = [enamel.circle(33, 34, 28, OUTLINE, 'opacity="0.35" filter="url(#haze)"'),
+             enamel.circle(32, 32, 29, OUTLINE),
+             enamel.circle(32, 32, 27, "url(#brass)"),
+             enamel.circle(32, 32, 26.2, "none", f'stroke="{BRASS_LIGHT}" stroke-width="1"'),
+             enamel.circle(32, 32, 23, OUTLINE),
+             enamel.circle(32, 32, 21.6, "url(#cream)")]
     for x in (21, 35):
         parts.append(enamel.box(x, 19, 8.5, 26, 2.5, "url(#ink-green)", f'stroke="{OUTLINE}" stroke-width="1.6"'))
         parts.append(enamel.box(x + 1.4, 20.6, 1.8, 22, 0.9, "#ffffff", 'opacity="0.35"'))

@@ -61,9 +61,9 @@ def board():
     # its legend
     parts.append(enamel.drop(675, up(267), 11))
     parts.append(enamel.lettering("clean water", "text", 33, 697, up(256), OUTLINE, "start"))
-    parts.append(enamel.disc(675, up(224), 12, "url(#foul)", f'stroke="{OUTLINE}" stroke-width="2"'))
+    parts.append(enamel.circle(675, up(224), 12, "url(#foul)", f'stroke="{OUTLINE}" stroke-width="2"'))
     for x, y, r in ((679, 222, 4), (671, 219, 2.6), (674, 229, 2.2)):
-        parts.append(enamel.disc(x, up(y), r, RED_DARK))
+        parts.append(enamel.circle(x, up(y), r, RED_DARK))
     parts.append(enamel.lettering("pollution", "text", 33, 697, up(214), OUTLINE, "start"))
 
     # the way on
@@ -76,7 +76,7 @@ def board():
 
 def pie(light, middle, dark, pattern):
     """A glossy disc that fills its picture; the game cuts a sector out of it."""
-    parts = [enamel.disc(256, 256, 256, OUTLINE), enamel.disc(256, 256, 244, "url(#dome)"), pattern,
+    parts = [enamel.circle(256, 256, 256, OUTLINE), enamel.circle(256, 256, 244, "url(#dome)"), pattern,
              enamel.path("M40 256 A216 216 0 0 1 256 40 Q96 96 40 256Z", "#ffffff", 'opacity="0.35"')]
     defs = enamel.radial("dome", [(0, light), (0.5, middle), (1, dark)])
     return kit.render(kit.svg(512, 512, "".join(parts), defs), 512, 512)
@@ -93,8 +93,8 @@ def water_pie():
 
 
 def foul_pie():
-    bubbles = "".join(enamel.disc(x, y, r, RED_DARK, 'opacity="0.7"')
-                      + enamel.disc(x - r * 0.3, y - r * 0.3, r * 0.26, RED_LIGHT, 'opacity="0.9"')
+    bubbles = "".join(enamel.circle(x, y, r, RED_DARK, 'opacity="0.7"')
+                      + enamel.circle(x - r * 0.3, y - r * 0.3, r * 0.26, RED_LIGHT, 'opacity="0.9"')
                       for x, y, r in ((372, 196, 36), (300, 128, 20), (426, 276, 22), (180, 214, 34), (306, 308, 30),
                                       (236, 122, 14), (206, 366, 28), (340, 404, 34), (120, 310, 20), (256, 72, 16),
                                       (396, 350, 16), (290, 212, 16), (256, 440, 18), (136, 150, 16)))

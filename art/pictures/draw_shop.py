@@ -13,9 +13,9 @@ def main():
     parts.append(enamel.plate(4, 6, 113, 244, 15, rim_width=5, outline=2, inset=4, heads=0))
     parts.append(enamel.lettering("SHOP", "caps", 28, 42, 39, "url(#ink-brass)", tracking=1.2, outline=1.6))
     # the porthole juts out over the plate's rim
-    parts.append(enamel.disc(SLOT_X - 0.5, SLOT_Y + 2.5, 30.5, OUTLINE, 'opacity="0.3" filter="url(#haze)"'))
-    parts.append(enamel.disc(SLOT_X, SLOT_Y, 31, OUTLINE))
-    parts.append(enamel.disc(SLOT_X, SLOT_Y, 29.2, "url(#well)"))
+    parts.append(enamel.circle(SLOT_X - 0.5, SLOT_Y + 2.5, 30.5, OUTLINE, 'opacity="0.3" filter="url(#haze)"'))
+    parts.append(enamel.circle(SLOT_X, SLOT_Y, 31, OUTLINE))
+    parts.append(enamel.circle(SLOT_X, SLOT_Y, 29.2, "url(#well)"))
     # an arrow from the word to the thing
     parts.append(enamel.lettering("BUY", "caps", 22, 34, 76, "url(#ink-cream)", outline=1.4))
     parts.append(enamel.path("M20 84 H44 V78.5 L57 88 L44 97.5 V92 H20Z", "url(#ink-cream)",

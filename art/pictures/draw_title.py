@@ -7,6 +7,7 @@ import cast
 import enamel
 import kit
 from palette import *
+from shapes import blob
 
 WIDTH, HEIGHT = 1024, 768
 HORIZON = 330
@@ -14,7 +15,7 @@ HORIZON = 330
 
 def sky():
     parts = [enamel.box(0, 0, WIDTH, HORIZON + 60, 0, "url(#sky)"),
-             enamel.disc(90, 40, 420, "url(#sun)")]
+             enamel.circle(90, 40, 420, "url(#sun)")]
     for x, y, k in ((700, 90, 1.1), (930, 60, 0.8), (560, 250, 0.7), (60, 270, 0.8)):
         parts.append(f'<g transform="translate({x} {y}) scale({k})" fill="#fffaf0" opacity="0.75">'
                      '<path d="M-90 20 Q-96 0 -70 -4 Q-64 -30 -34 -24 Q-16 -46 12 -30 Q40 -40 48 -14 Q80 -18 '
@@ -27,8 +28,8 @@ def trees(x, y, k, tone):
     dark, light = enamel.mix(MEADOW_DARK, CREAM, tone), enamel.mix(MEADOW_LIGHT, CREAM, tone)
     parts = []
     for dx, r in ((-30, 11), (-14, 15), (24, 12), (38, 9)):
-        parts.append(enamel.disc(x + k * dx, y - k * r * 0.8, k * r, dark))
-        parts.append(enamel.disc(x + k * (dx - r * 0.25), y - k * r * 1.05, k * r * 0.66, light))
+        parts.append(enamel.circle(x + k * dx, y - k * r * 0.8, k * r, dark))
+        parts.append(enamel.circle(x + k * (dx - r * 0.25), y - k * r * 1.05, k * r * 0.66, light))
     for dx, tall in ((4, 44), (13, 34)):
         parts.append(enamel.path(f"M{x + k * (dx - 6):.1f} {y:.1f} Q{x + k * (dx - 7):.1f} "
                                  f"{y - k * tall * 0.6:.1f} {x + k * dx:.1f} {y - k * tall:.1f} "
@@ -70,15 +71,15 @@ def field(rng):
             a = 2 * math.pi * i / 16
             f = 1 + 0.14 * math.sin(3 * a + x) + 0.08 * math.sin(5 * a + y)
             points.append((x + rx * f * math.cos(a), y + ry * f * math.sin(a)))
-        parts.append(enamel.path(enamel.smooth(points), MEADOW_LIGHT))
+        parts.append(enamel.path(blob(points, 0.45), MEADOW_LIGHT))
         inner = [(x + (px - x) * 0.93, y + (py - y) * 0.86 + 1) for px, py in points]
-        parts.append(enamel.path(enamel.smooth(inner), "url(#meadow)"))
+        parts.append(enamel.path(blob(inner, 0.45), "url(#meadow)"))
         for _ in range(int(rx * ry / 130)):
             a, f = rng.uniform(0, 2 * math.pi), math.sqrt(rng.random()) * 0.8
             px, py = x + rx * f * math.cos(a), y + ry * f * math.sin(a)
             s = 0.9 + (py - HORIZON) / 150
-            parts.append(enamel.disc(px, py, 1.5 * s, FLOWER))
-            parts.append(enamel.disc(px, py, 0.6 * s, BRASS))
+            parts.append(enamel.circle(px, py, 1.5 * s, FLOWER))
+            parts.append(enamel.circle(px, py, 0.6 * s, BRASS))
     for _ in range(420):
         y = HORIZON + 24 + 410 * rng.random() ** 1.2
         x = rng.uniform(0, WIDTH)
@@ -127,14 +128,14 @@ def splash(x, y, k, line=False):
 
     def sheet(share, dx, dy, colour, more=""):
         points = [(x + k * (px * share + dx), y + k * (py * share + dy)) for px, py in edge]
-        return enamel.path(enamel.smooth(points, 1.0), colour, more)
+        return enamel.path(blob(points), colour, more)
 
     if line:
         return sheet(1, 0, 0, WATER, f'stroke="{OUTLINE}" stroke-width="4.6" stroke-linejoin="round"')
     parts = [sheet(1, 0, 0, WATER), sheet(0.8, -1, -1.5, WATER_LIGHT)]
     for fx, fy, fr in ((-12, -12, 8), (0, -16, 10), (11, -8, 9), (-14, 3, 8), (12, 8, 8), (-4, 15, 9),
                        (5, 14, 8), (-1, 0, 14)):
-        parts.append(enamel.disc(x + k * fx, y + k * fy, k * fr, WATER_FOAM))
+        parts.append(enamel.circle(x + k * fx, y + k * fy, k * fr, WATER_FOAM))
     for fx, fy, fr in ((-6, -10, 5), (5, -4, 6), (-5, 6, 5), (8, 8, 3.5)):
         parts.append(enamel.path(f"M{x + k * (fx - fr):.1f} {y + k * fy:.1f} A{k * fr:.1f} {k * fr:.1f} 0 0 0 "
                                  f"{x + k * (fx + fr):.1f} {y + k * fy:.1f}",
@@ -146,7 +147,7 @@ def splash(x, y, k, line=False):
         parts.append(f'<g transform="translate({x + k * fx:.1f} {y + k * fy:.1f}) rotate({turn:.0f})">'
                      + enamel.path(enamel.drop_shape(0, 0, k * size), WATER, f'stroke="{OUTLINE}" '
                              f'stroke-width="2" stroke-linejoin="round"')
-                     + enamel.disc(-k * size * 0.2, -k * size * 0.1, k * size * 0.45, WATER_FOAM) + "</g>")
+                     + enamel.circle(-k * size * 0.2, -k * size * 0.1, k * size * 0.45, WATER_FOAM) + "</g>")
     return "".join(parts)
 
 
@@ -166,9 +167,9 @@ def clump(x, y, s, rng):
         fx, fy = x + rng.uniform(-15, 15) * s, y - rng.uniform(10, 28) * s
         for k in range(5):
             a = 2 * math.pi * k / 5 + i
-            parts.append(enamel.disc(fx + 2.5 * s * math.cos(a), fy + 2.5 * s * math.sin(a), 2.1 * s, FLOWER,
+            parts.append(enamel.circle(fx + 2.5 * s * math.cos(a), fy + 2.5 * s * math.sin(a), 2.1 * s, FLOWER,
                                      f'stroke="{enamel.mix(FLOWER, MEADOW_DARK, 0.6)}" stroke-width="0.6"'))
-        parts.append(enamel.disc(fx, fy, 1.8 * s, BRASS))
+        parts.append(enamel.circle(fx, fy, 1.8 * s, BRASS))
     return "".join(parts)
 
 
@@ -192,7 +193,7 @@ def sign():
     parts.append(enamel.lettering("Vorel", "script", 164, 296, 172, "url(#ink-cream)", outline=4, depth=7, side=BRASS))
     parts.append(enamel.lettering("DEFENSE INC.", "caps", 60, 351, 237, "url(#ink-brass)", outline=2.4, tracking=13))
     parts.append(enamel.bezel(548, 126, 44, 9, 2.5))
-    parts.append(enamel.disc(548, 126, 44, "url(#cream)"))
+    parts.append(enamel.circle(548, 126, 44, "url(#cream)"))
     parts.append(enamel.drop(548, 138, 23, 2.6))
     # a ribbon underneath
     parts.append(enamel.pipe(230, 268, 8, 24, "brass"))
@@ -217,9 +218,9 @@ def small_turret(x, y, r):
         parts.append(f'<g transform="translate({x} {y}) rotate({45 * i + 22.5})">'
                      + enamel.box(r * 0.7, -r * 0.16, r * 0.36, r * 0.32, 1, COPPER, f'stroke="{OUTLINE}" '
                                                                                      f'stroke-width="1.6"') + "</g>")
-    parts += [enamel.disc(x, y, r * 0.84, OUTLINE), enamel.disc(x, y, r * 0.76, "url(#brass)"),
-              enamel.disc(x, y, r * 0.62, "url(#cream)"), enamel.disc(x, y, r * 0.44, OUTLINE),
-              enamel.disc(x, y, r * 0.36, "url(#ball)")]
+    parts += [enamel.circle(x, y, r * 0.84, OUTLINE), enamel.circle(x, y, r * 0.76, "url(#brass)"),
+              enamel.circle(x, y, r * 0.62, "url(#cream)"), enamel.circle(x, y, r * 0.44, OUTLINE),
+              enamel.circle(x, y, r * 0.36, "url(#ball)")]
     return "".join(parts)
 
 

@@ -14,18 +14,18 @@ LEFT, RIGHT = 31, 97       # the tank's walls
 WINDOW = (39.5, 27, 88.5)  # left, top, right; its sill is the floor
 
 DEFS = s.MATERIALS + (
-    s.linear("roof", (0, p.COPPER_DARK), (.3, p.COPPER_LIGHT), (.5, p.COPPER), (1, p.COPPER_DARK),
-             y2=0)
-    + s.linear("wall", (0, p.CREAM_SHADE), (.22, s.mix(p.CREAM, "#ffffff", .55)), (.5, p.CREAM),
-               (.85, p.CREAM_SHADE), (1, s.mix(p.CREAM_SHADE, p.COPPER_DARK, .35)), y2=0)
-    + s.linear("inside", (0, "#0e2620"), (.5, "#21473c"), (1, "#122d27"), y2=0)
-    + s.linear("depth", (0, "#000000", .45), (.4, "#000000", 0), x2=0)
-    + s.linear("water", (0, "#c6eeff"), (.3, "#a6dcfd"), (1, "#98cdfa"), x2=0)
-    + s.linear("waterside", (0, "#5e93cc", .55), (.25, "#ffffff", .25), (.5, "#ffffff", 0),
-               (1, "#4e83c4", .6), y2=0)
-    + s.linear("enamel", (0, p.BOTTLE_GREEN), (.28, p.BOTTLE_GREEN_LIGHT), (.55, p.BOTTLE_GREEN),
-               (1, "#10312a"), y2=0)
-    + s.linear("glass", (0, "#ffffff", .55), (1, "#ffffff", .05), x2=0)
+    s.gradient("roof", [(0, p.COPPER_DARK), (.3, p.COPPER_LIGHT), (.5, p.COPPER), (1, p.COPPER_DARK)],
+               x2=1, y2=0)
+    + s.gradient("wall", [(0, p.CREAM_SHADE), (.22, s.mix(p.CREAM, "#ffffff", .55)), (.5, p.CREAM),
+                         (.85, p.CREAM_SHADE), (1, s.mix(p.CREAM_SHADE, p.COPPER_DARK, .35))], x2=1, y2=0)
+    + s.gradient("inside", [(0, "#0e2620"), (.5, "#21473c"), (1, "#122d27")], x2=1, y2=0)
+    + s.gradient("depth", [(0, "#000000", .45), (.4, "#000000", 0)])
+    + s.gradient("water", [(0, "#c6eeff"), (.3, "#a6dcfd"), (1, "#98cdfa")])
+    + s.gradient("waterside", [(0, "#5e93cc", .55), (.25, "#ffffff", .25), (.5, "#ffffff", 0),
+                              (1, "#4e83c4", .6)], x2=1, y2=0)
+    + s.gradient("enamel", [(0, p.BOTTLE_GREEN), (.28, p.BOTTLE_GREEN_LIGHT), (.55, p.BOTTLE_GREEN),
+                           (1, "#10312a")], x2=1, y2=0)
+    + s.gradient("glass", [(0, "#ffffff", .55), (1, "#ffffff", .05)])
 )
 
 
@@ -58,11 +58,11 @@ def water():
                    "url(#water)"))
     body += s.path(f"M{left},{top} L{left},{FLOOR} L{right},{FLOOR} L{right},{top} Z",
                    "url(#waterside)")
-    body += s.ellipse(middle, top, (right - left) / 2, 4.2, "#e9faff", "#a6cdee", 1)
+    body += s.ellipse(middle, top, (right - left) / 2, 4.2, "#e9faff", stroke="#a6cdee", width=1)
     body += s.path(f"M{left + 8},{top + .4} Q{middle - 10},{top - 2.6} {middle + 4},{top - 1.8}",
                    stroke="#ffffff", width=1.3)
     for x, y, r in ((50, 56, 1.7), (54, 45, 1.2), (76, 52, 2.1), (80, 42, 1.3), (66, 60, 1.4)):
-        body += s.circle(x, y, r, "none", "#f4fdff", .9)
+        body += s.circle(x, y, r, "none", stroke="#f4fdff", width=.9)
     return body
 
 
@@ -77,7 +77,8 @@ def front():
         body += s.rect(57.7, y, 12.6, 4, "url(#brass-tube)", width=1.6, radius=1)
     # the valve wheel on the pipe
     body += s.circle(64.8, 93.2, 5.6, p.OUTLINE, more='opacity="0.3"')
-    body += s.circle(64, 92, 5, "none", p.OUTLINE, 4) + s.circle(64, 92, 5, "none", "url(#brass)", 1.9)
+    body += s.circle(64, 92, 5, "none", width=4)
+    body += s.circle(64, 92, 5, "none", stroke="url(#brass)", width=1.9)
     body += s.path("M64,87.4 V96.6 M59.4,92 H68.6", stroke=p.OUTLINE, width=2.6)
     body += s.path("M64,87.4 V96.6 M59.4,92 H68.6", stroke=p.BRASS, width=1.1)
     body += s.circle(64, 92, 1.5, "url(#brass-ball)", width=.9)
@@ -115,7 +116,7 @@ def front():
     for x in (36, 45, 83, 92):
         body += s.rivet(x, FLOOR + 5 + (1.8 if 40 < x < 88 else 0), 1.2)
     body += s.ellipse(middle, FLOOR + 6.4, 10.5, 6, "url(#cream)", width=1.8)
-    body += s.drop(middle, FLOOR + 7.6, 6.4, 6, 90, p.WATER, p.WATER_DEEP, .8)
+    body += s.flying_drop(middle, FLOOR + 7.6, 6.4, 6, 90, p.WATER, p.WATER_DEEP, .8)
     # roof
     body += s.path(f"M{LEFT - 6},21 Q{middle},30 {RIGHT + 6},21 L{middle + 7},7.5 "
                    f"Q{middle},5.5 {middle - 7},7.5 Z", "url(#roof)", width=2)

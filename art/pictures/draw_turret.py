@@ -9,7 +9,7 @@ def nozzle():
     """A spout pointing to +x, its root under the plate: copper cone, brass lip, water in it."""
     return (s.path("M-6,-5 L3.2,-3 L3.2,3 L-6,5 Z", "url(#copper-pipe)", width=2)
             + s.rect(2.6, -4, 3.6, 8, "url(#brass-pipe)", width=1.7, radius=1.3)
-            + s.ellipse(6.3, 0, .9, 2.2, p.WATER_LIGHT, p.WATER_DEEP, .8))
+            + s.ellipse(6.3, 0, .9, 2.2, p.WATER_LIGHT, stroke=p.WATER_DEEP, width=.8))
 
 
 def turret():
@@ -20,7 +20,7 @@ def turret():
     # plate: bottle green below, a brass hoop, cream enamel on top
     body += s.circle(32, 32, 21.4, "url(#green)", width=2)
     body += s.circle(32, 32, 18.2, "url(#cream)", width=3.4)
-    body += s.circle(32, 32, 18.2, "none", "url(#brass)", 1.7)
+    body += s.circle(32, 32, 18.2, "none", stroke="url(#brass)", width=1.7)
     for x, y, angle in s.ring(32, 32, 8, 14.1, 0):
         body += s.rivet(x, y, 1.15)
     # the dome

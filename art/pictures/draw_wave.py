@@ -15,7 +15,7 @@ TENS, UNITS, TOP, BOTTOM = 436, 500, 83, 211
 def crest(x, y):
     """The company's mark: a drop on an enamel roundel, between two wings of pipe."""
     return (enamel.bezel(x, y, 29, 6)
-            + enamel.disc(x, y, 29, "url(#cream)")
+            + enamel.circle(x, y, 29, "url(#cream)")
             + enamel.drop(x, y + 8, 14))
 
 

@@ -1,4 +1,4 @@
-"""Shapes that several pictures share: lettering, enamel plates, rivets, pipes, coins and dials.
+"""What the panels and the title are made of: lettering, enamel plates, pipes, coins and dials.
 
 Everything is lit from the upper left and outlined in the same dark navy, so that the panels look
 as if they came out of one workshop.
@@ -12,7 +12,9 @@ from fontTools.pens.transformPen import TransformPen
 from fontTools.ttLib import TTFont
 from PIL import ImageFilter
 
+import shapes
 from palette import *
+from shapes import circle, gradient, mix, path, radial, rivet
 
 FONTS = {
     "caps": "/usr/share/fonts/opentype/bebas-neue/BebasNeue-Bold.otf",
@@ -21,60 +23,14 @@ FONTS = {
 }
 
 
-def mix(one, other, share):
-    """The colour that lies the given share of the way from one to the other."""
-    pairs = ((int(one[i:i + 2], 16), int(other[i:i + 2], 16)) for i in (1, 3, 5))
-    return "#" + "".join(f"{round(a + (b - a) * share):02x}" for a, b in pairs)
-
-
-def gradient(name, stops, x1=0, y1=0, x2=0, y2=1):
-    """A linear gradient over the painted shape; a stop is (offset, colour[, opacity])."""
-    body = "".join(
-        f'<stop offset="{s[0]}" stop-color="{s[1]}" stop-opacity="{s[2] if len(s) > 2 else 1}"/>'
-        for s in stops
-    )
-    return f'<linearGradient id="{name}" x1="{x1}" y1="{y1}" x2="{x2}" y2="{y2}">{body}</linearGradient>'
-
-
-def radial(name, stops, cx=0.35, cy=0.3, r=0.8):
-    """A radial gradient over the painted shape, centred towards the light by default."""
-    body = "".join(
-        f'<stop offset="{s[0]}" stop-color="{s[1]}" stop-opacity="{s[2] if len(s) > 2 else 1}"/>'
-        for s in stops
-    )
-    return f'<radialGradient id="{name}" cx="{cx}" cy="{cy}" r="{r}">{body}</radialGradient>'
-
-
-def _metal(light, middle, dark):
-    return [(0, light), (0.28, middle), (0.5, mix(middle, dark, 0.35)), (0.62, mix(light, middle, 0.45)),
-            (0.8, middle), (1, dark)]
-
-
-def _tube(light, middle, dark):
-    return [(0, mix(middle, dark, 0.5)), (0.12, middle), (0.3, light), (0.42, mix(light, middle, 0.6)),
-            (0.68, middle), (0.9, dark), (1, mix(dark, OUTLINE, 0.25))]
-
-
 DEFS = "".join([
-    gradient("brass", _metal(BRASS_LIGHT, BRASS, BRASS_DARK), 0, 0, 1, 1),
-    gradient("copper", _metal(COPPER_LIGHT, COPPER, COPPER_DARK), 0, 0, 1, 1),
-    gradient("steel", _metal(STEEL_LIGHT, STEEL, STEEL_DARK), 0, 0, 1, 1),
-    gradient("copper-flat", _tube(COPPER_LIGHT, COPPER, COPPER_DARK)),
-    gradient("copper-up", _tube(COPPER_LIGHT, COPPER, COPPER_DARK), 0, 0, 1, 0),
-    gradient("brass-flat", _tube(BRASS_LIGHT, BRASS, BRASS_DARK)),
-    gradient("brass-up", _tube(BRASS_LIGHT, BRASS, BRASS_DARK), 0, 0, 1, 0),
-    gradient("green", [(0, mix(BOTTLE_GREEN_LIGHT, CREAM, 0.10)), (0.35, BOTTLE_GREEN_LIGHT),
-                       (1, mix(BOTTLE_GREEN, OUTLINE, 0.25))], 0, 0, 0.55, 1),
-    gradient("cream", [(0, mix(CREAM, "#ffffff", 0.55)), (0.45, CREAM), (1, CREAM_SHADE)], 0, 0, 0.55, 1),
+    shapes.MATERIALS,
     gradient("recess", [(0, mix(OUTLINE, "#000000", 0.45)), (0.4, OUTLINE),
                         (1, mix(OUTLINE, BOTTLE_GREEN, 0.6))]),
     gradient("gloss", [(0, "#ffffff", 0.34), (1, "#ffffff", 0.02)], 0, 0, 0.3, 1),
     gradient("ink-cream", [(0, "#fffdf4"), (0.55, CREAM), (1, CREAM_SHADE)]),
     gradient("ink-brass", [(0, "#fff3c4"), (0.45, BRASS_LIGHT), (1, BRASS)]),
     gradient("ink-green", [(0, BOTTLE_GREEN_LIGHT), (1, mix(BOTTLE_GREEN, OUTLINE, 0.3))]),
-    radial("rivet-brass", [(0, "#fff6d8"), (0.45, BRASS), (1, BRASS_DARK)]),
-    radial("rivet-copper", [(0, "#ffd9bd"), (0.45, COPPER), (1, COPPER_DARK)]),
-    radial("rivet-steel", [(0, "#ffffff"), (0.45, STEEL), (1, STEEL_DARK)]),
     radial("coin", [(0, "#fff2bd"), (0.4, BRASS_LIGHT), (0.8, BRASS), (1, mix(BRASS, BRASS_DARK, 0.5))]),
     radial("drop", [(0, WATER_FOAM), (0.3, WATER_LIGHT), (0.65, WATER), (1, WATER_DEEP)], 0.38, 0.5, 0.65),
     '<filter id="soft" x="-30%" y="-30%" width="160%" height="160%"><feGaussianBlur stdDeviation="4"/></filter>',
@@ -170,42 +126,16 @@ def lettering(text, face, size, x, y, fill, anchor="middle", outline=0.0, shadow
 
 
 def box(x, y, w, h, r, fill, more=""):
-    return f'<rect x="{x:.2f}" y="{y:.2f}" width="{w:.2f}" height="{h:.2f}" rx="{r:.2f}" fill="{fill}" {more}/>'
-
-
-def disc(x, y, r, fill, more=""):
-    return f'<circle cx="{x:.2f}" cy="{y:.2f}" r="{r:.2f}" fill="{fill}" {more}/>'
-
-
-def path(data, fill="none", more=""):
-    return f'<path d="{data}" fill="{fill}" {more}/>'
-
-
-def smooth(points, pull=0.9):
-    """Path data of a closed smooth curve through the points."""
-    n, data = len(points), ""
-    for i in range(n):
-        (ax, ay), (bx, by), (cx, cy), (dx, dy) = (points[(i + k - 1) % n] for k in range(4))
-        data += f"M{bx:.2f} {by:.2f} " if not data else ""
-        f = pull / 6
-        data += (f"C{bx + (cx - ax) * f:.2f} {by + (cy - ay) * f:.2f} {cx - (dx - bx) * f:.2f} "
-                 f"{cy - (dy - by) * f:.2f} {cx:.2f} {cy:.2f} ")
-    return data + "Z"
-
-
-def rivet(x, y, r=3.0, metal="brass"):
-    """A round head with the light on its upper left and its shadow on the lower right."""
-    return (disc(x + r * 0.25, y + r * 0.35, r * 1.15, OUTLINE, 'opacity="0.45"')
-            + disc(x, y, r, f"url(#rivet-{metal})", f'stroke="{OUTLINE}" stroke-width="{r * 0.32:.2f}"')
-            + disc(x - r * 0.32, y - r * 0.36, r * 0.24, "#ffffff", 'opacity="0.9"'))
+    """A rectangle whose corners are rounded with the radius r."""
+    return shapes.rect(x, y, w, h, fill, more, radius=r)
 
 
 def screw(x, y, r=4.0, turn=35, metal="brass"):
     """A rivet with a slot."""
     slot = (f'<g transform="translate({x} {y}) rotate({turn})">'
             + box(-r * 0.72, -r * 0.14, r * 1.44, r * 0.3, r * 0.1, OUTLINE, 'opacity="0.85"') + "</g>")
-    return (disc(x + r * 0.25, y + r * 0.35, r * 1.15, OUTLINE, 'opacity="0.45"')
-            + disc(x, y, r, f"url(#rivet-{metal})", f'stroke="{OUTLINE}" stroke-width="{r * 0.28:.2f}"') + slot)
+    return (circle(x + r * 0.25, y + r * 0.35, r * 1.15, OUTLINE, 'opacity="0.45"')
+            + circle(x, y, r, f"url(#{metal}-ball)", f'stroke="{OUTLINE}" stroke-width="{r * 0.28:.2f}"') + slot)
 
 
 def plate(x, y, w, h, r=14, enamel="green", rim="brass", rim_width=5.0, outline=2.0, pin=True,
@@ -261,16 +191,16 @@ def recess(x, y, w, h, r=6, outline=2.0, rim="brass"):
 
 def pipe(x, y, w, h, metal="copper"):
     """A straight pipe, lying or standing as its longer side says."""
-    kind = "flat" if w >= h else "up"
+    kind = "pipe" if w >= h else "tube"
     edge = 2.0
-    if kind == "flat":
-        return box(x, y - edge, w, h + 2 * edge, 0, OUTLINE) + box(x, y, w, h, 0, f"url(#{metal}-flat)")
-    return box(x - edge, y, w + 2 * edge, h, 0, OUTLINE) + box(x, y, w, h, 0, f"url(#{metal}-up)")
+    if kind == "pipe":
+        return box(x, y - edge, w, h + 2 * edge, 0, OUTLINE) + box(x, y, w, h, 0, f"url(#{metal}-pipe)")
+    return box(x - edge, y, w + 2 * edge, h, 0, OUTLINE) + box(x, y, w, h, 0, f"url(#{metal}-tube)")
 
 
 def collar(x, y, w, h, metal="brass", r=2.5):
     """A ring around a pipe; its longer side lies across the pipe."""
-    kind = "flat" if h >= w else "up"
+    kind = "pipe" if h >= w else "tube"
     return box(x - 2, y - 2, w + 4, h + 4, r + 1.5, OUTLINE) + box(x, y, w, h, r, f"url(#{metal}-{kind})")
 
 
@@ -298,10 +228,10 @@ def coin(x, y, r, outline=2.0):
     """A brass coin with the currency sign struck into it."""
     size = r * 1.62
     sign = outlines("$", "caps", size, x, y + size * 0.35, "middle")
-    return (disc(x, y, r, OUTLINE)
-            + disc(x, y, r - outline, "url(#coin)")
-            + disc(x, y, (r - outline) * 0.82, "none", f'stroke="{BRASS_DARK}" stroke-width="{r * 0.07:.2f}"')
-            + disc(x + r * 0.03, y + r * 0.03, (r - outline) * 0.86, "none",
+    return (circle(x, y, r, OUTLINE)
+            + circle(x, y, r - outline, "url(#coin)")
+            + circle(x, y, (r - outline) * 0.82, "none", f'stroke="{BRASS_DARK}" stroke-width="{r * 0.07:.2f}"')
+            + circle(x + r * 0.03, y + r * 0.03, (r - outline) * 0.86, "none",
                    f'stroke="{BRASS_LIGHT}" stroke-width="{r * 0.05:.2f}"')
             + path(sign, "#fff3c4", f'transform="translate({r * 0.05:.2f} {r * 0.06:.2f})"')
             + path(sign, mix(BRASS_DARK, OUTLINE, 0.75))
@@ -315,22 +245,22 @@ def valve(x, y, r):
     spokes = "".join(f"M{x} {y} L{x + r * 0.8 * math.cos(a):.2f} {y + r * 0.8 * math.sin(a):.2f} "
                      for a in (math.radians(d) for d in (20, 92, 164, 236, 308)))
     ring = f'<circle cx="{x}" cy="{y}" r="{r * 0.84:.2f}" fill="none" '
-    return (disc(x + 2, y + 3, r, OUTLINE, 'opacity="0.25" filter="url(#haze)"')
+    return (circle(x + 2, y + 3, r, OUTLINE, 'opacity="0.25" filter="url(#haze)"')
             + ring + f'stroke="{OUTLINE}" stroke-width="{r * 0.34 + 1:.2f}"/>'
             + path(spokes, "none", f'stroke="{OUTLINE}" stroke-width="8"')
             + path(spokes, "none", f'stroke="{BRASS}" stroke-width="4.4"')
             + ring + f'stroke="url(#brass)" stroke-width="{r * 0.34 - 3:.2f}"/>'
-            + disc(x, y, r * 0.26, "url(#rivet-brass)", f'stroke="{OUTLINE}" stroke-width="2"'))
+            + circle(x, y, r * 0.26, "url(#brass-ball)", f'stroke="{OUTLINE}" stroke-width="2"'))
 
 
 def bezel(x, y, r, width, outline=2.0, metal="brass"):
     """The metal ring around a round dial whose visible disc has the radius r."""
     light = {"brass": BRASS_LIGHT, "copper": COPPER_LIGHT, "steel": STEEL_LIGHT}[metal]
-    return (disc(x + 3, y + 4, r + width + outline, OUTLINE, 'opacity="0.35" filter="url(#soft)"')
-            + disc(x, y, r + width + outline, OUTLINE)
-            + disc(x, y, r + width, f"url(#{metal})")
-            + disc(x, y, r + width - 1, "none", f'stroke="{light}" stroke-width="1.2" opacity="0.8"')
-            + disc(x, y, r + outline, OUTLINE))
+    return (circle(x + 3, y + 4, r + width + outline, OUTLINE, 'opacity="0.35" filter="url(#soft)"')
+            + circle(x, y, r + width + outline, OUTLINE)
+            + circle(x, y, r + width, f"url(#{metal})")
+            + circle(x, y, r + width - 1, "none", f'stroke="{light}" stroke-width="1.2" opacity="0.8"')
+            + circle(x, y, r + outline, OUTLINE))
 
 
 def keycap(label, x, y, w=40, h=40, size=26):

@@ -7,6 +7,7 @@ import subprocess
 import numpy
 from PIL import Image
 
+FAINT = 7  # the largest alpha that counts as transparent
 OUTPUT = pathlib.Path(__file__).resolve().parents[2] / "Assets" / "img"
 
 
@@ -32,10 +33,11 @@ def bleed(picture, rounds=24):
     """Spreads the colours of a shape into its transparent surroundings.
 
     The game filters straight alpha, so a transparent pixel beside a shape must carry the shape's
-    colour: black there would show as a dark halo.
+    colour: black there would show as a dark halo. Nearly transparent pixels are overwritten too, for
+    eight bits leave too little of the colour that they were rendered with.
     """
     pixels = numpy.asarray(picture).astype(numpy.float64)
-    colour, known = pixels[..., :3] * 1.0, pixels[..., 3] > 0
+    colour, known = pixels[..., :3] * 1.0, pixels[..., 3] > FAINT
     for _ in range(rounds):
         if known.all():
             break

@@ -1,3 +1,4 @@
+#!/usr/bin/python3
 """Composes a field of play out of the finished pictures, the way the game draws it.
 
 preview.py [file] [seed]: writes 1024 x 768 pixels, by default to the temporary directory. The
