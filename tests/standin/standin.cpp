@@ -153,7 +153,7 @@ SDL_Cursor* SDL_CreateCursor(Uint8* data, Uint8* mask, int w, int h, int hot_x, 
     texels.assign(data, data + w / 8 * h), texels.insert(texels.end(), mask, mask + w / 8 * h);
     return say("cursor", w, h, hot_x, hot_y), nullptr;
 }
-int SDL_Init(Uint32 what) { return ticks = 0, say("init", what == SDL_INIT_VIDEO); }
+int SDL_Init(Uint32 what) { return ticks = 0xFFFFFFF0, say("init", what == SDL_INIT_VIDEO); }
 void SDL_Quit() { say("quit"); }
 void SDL_WM_SetCaption(const char* title, const char*) { say("caption", title); }
 SDL_Surface* SDL_SetVideoMode(int w, int h, int bits, Uint32 what) { return say("video", w, h, bits, what), nullptr; }
