@@ -1,5 +1,5 @@
 #!/usr/bin/env -S SDL_AUDIODRIVER=dummy /usr/bin/python3
-"""The pictures and sounds that the game loads, examined without starting it. Run in the folder that holds Assets/."""
+# The pictures and sounds that the game loads, examined without starting it. Run in the folder that holds Assets/.
 import ctypes
 import pathlib
 import re

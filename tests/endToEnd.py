@@ -1,9 +1,10 @@
 #!/usr/bin/python3
-"""The real program, seen and heard: a whole session, and games with broken files closed by their window.
+# The real program, seen and heard: a whole session, and games with broken files closed by their window.
+#
+#     endToEnd.py PROGRAM
 
-    endToEnd.py PROGRAM
-"""
 import os
+import pathlib
 import shutil
 import sys
 import tempfile
@@ -15,15 +16,15 @@ from session import Window, play
 DISK_AUDIO = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIODELAY": "23"}
 
 
+# The loudest sample of a recorded stream, of 32767.
 def loudest(stream):
-    """The loudest sample of a recorded stream, of 32767."""
     with open(stream, "rb") as file:
         samples = file.read()
     return max(map(abs, memoryview(samples[: len(samples) // 2 * 2]).cast("h")), default=0)
 
 
+# Starts the program in a folder, buys a turret and closes the window; how loud did it get?
 def broken_game(program, directory, stream):
-    """Starts the program in `directory`, buys a turret and closes the window; how loud did it get?"""
     with Window(program, directory, SDL_DISKAUDIOFILE=stream, **DISK_AUDIO) as window:
         window.until("a window", lambda picture: window.windows()[1])
         window.do("key", "a")
@@ -48,10 +49,7 @@ with tempfile.TemporaryDirectory() as scratch:
     # Without music the only sound is that of the turret; the other files are empty, cut or noise.
     shutil.copytree("Assets", os.path.join(broken := os.path.join(scratch, "broken"), "Assets"))
     shutil.rmtree(os.path.join(broken, "Assets/music"))
-    for number, path in enumerate(sorted(entry.path for entry in os.scandir(os.path.join(broken, "Assets/img")))):
-        with open(path, "r+b") as file:
-            whole = file.read()
-            file.seek(0)
-            file.truncate()
-            file.write([b"", whole[: len(whole) // 2], os.urandom(5000)][number % 3])
+    for number, path in enumerate(sorted(pathlib.Path(broken, "Assets/img").iterdir())):
+        whole = path.read_bytes()
+        path.write_bytes([b"", whole[: len(whole) // 2], os.urandom(5000)][number % 3])
     assert broken_game(program, broken, os.path.join(scratch, "broken.raw")) > 100, "the purchase was not heard"

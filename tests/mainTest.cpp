@@ -38,6 +38,16 @@ TEST(MainLoop, startsAndShutsDownInOrder) {
 }
 
 
+TEST(MainLoop, saysInAWordWhatGoesWrongAndEndsWellAllTheSame) {
+    SDL_SetError("no audio"), standin::audio = -1;
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(play(" "), "TT") << "a silent game goes on";
+    standin::session.clear(), standin::audio = 0; // asking for the next event now raises an exception
+    EXPECT_EQ(SDL_main(0, nullptr), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "no audioerror\n");
+}
+
+
 TEST(MainLoop, keysAndButtonsLeaveTheTitlePauseRestartAndQuit) {
     // What is seen, how often the music of the game starts, and how many turrets are built.
     const std::tuple<const char*, const char*, size_t, size_t> sessions[] = {{" a _  _ _ r ", "TfPPfPTT", 1, 0},

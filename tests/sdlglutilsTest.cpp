@@ -39,7 +39,7 @@ TEST(Pictures, becomeCursorsOfThreeColours) {
 
 
 TEST(Pictures, ofTheAxesLeaveNoColourBehind) {
-    drawAxis(5);
+    standin::clear(), drawAxis(5);
     EXPECT_EQ(standin::drawn, standin::Words{"- 6 0,0 5,0 0,0 0 0 1"});
     EXPECT_TRUE(standin::isAtRest());
 }

@@ -38,8 +38,9 @@ extern std::string session;
 extern std::function<void()> onFrame;
 
 /// What time() and the system clock answer, in seconds and in nanoseconds since 1970, and how often the latter was
-/// asked: it seeds the place where a grunt enters. And the milliseconds that the work of a frame takes.
-extern long long calendar, nanoseconds, entered, work;
+/// asked: it seeds the place where a grunt enters. And the milliseconds that the work of a frame takes, and what
+/// opening the audio device answers.
+extern long long calendar, nanoseconds, entered, work, audio;
 /// Seeds with which a grunt enters at (-30, 351.9975), left of the tower, and at (511.9981, 798), above it.
 constexpr long long fromLeft = 60911, fromTop = 224874;
 /// What rand() answers next; once it is used up, 60: no patches on the ground.
