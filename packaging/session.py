@@ -10,7 +10,7 @@ import subprocess
 import sys
 import time
 
-from Xlib import X, display, protocol
+from Xlib import X, display, error, protocol
 
 WIDTH, HEIGHT = 1024, 768
 
@@ -79,8 +79,13 @@ class Window:
 
     def windows(self):
         """The connection to the display, and its windows that have a name."""
+        def name(window):
+            try:
+                return window.get_wm_name()
+            except error.BadWindow:  # gone since it was listed
+                return None
         screen = display.Display(self.display)
-        return screen, [window for window in screen.screen().root.query_tree().children if window.get_wm_name()]
+        return screen, [window for window in screen.screen().root.query_tree().children if name(window)]
 
     def close(self):
         """Closes the window as its own button does."""
