@@ -1,4 +1,4 @@
-// OpenGL and the mixer struck dumb: what is measured on them is the game's own work, and what is counted its own
+// OpenGL and a mixer that do nothing: what is measured with them is the game's own work, and what is counted its own
 // memory.
 
 #include <SDL_mixer.h>
@@ -8,6 +8,10 @@ extern "C" {
 
 void glEnable(GLenum) {}
 void glDisable(GLenum) {}
+void glClear(GLbitfield) {}
+void glMatrixMode(GLenum) {}
+void glLoadIdentity() {}
+void gluOrtho2D(GLdouble, GLdouble, GLdouble, GLdouble) {}
 void glBindTexture(GLenum, GLuint) {}
 void glBegin(GLenum) {}
 void glEnd() {}
@@ -32,6 +36,15 @@ void glTexParameteri(GLenum, GLenum, GLint) {}
 void glTexImage2D(GLenum, GLint, GLint, GLsizei, GLsizei, GLint, GLenum, GLenum, const void*) {}
 GLint gluBuild2DMipmaps(GLenum, GLint, GLsizei, GLsizei, GLenum, GLenum, const void*) { return 0; }
 
+int Mix_OpenAudio(int, Uint16, int, int) { return 0; }
+int Mix_AllocateChannels(int) { return 0; }
+Mix_Chunk* Mix_LoadWAV_RW(SDL_RWops*, int) { return nullptr; }
+Mix_Music* Mix_LoadMUS(const char*) { return nullptr; }
+void Mix_FreeChunk(Mix_Chunk*) {}
+void Mix_FreeMusic(Mix_Music*) {}
+int Mix_PlayMusic(Mix_Music*, int) { return -1; }
+int Mix_FadeInMusicPos(Mix_Music*, int, int, double) { return -1; }
+int Mix_VolumeMusic(int) { return 0; }
 int Mix_PlayChannelTimed(int, Mix_Chunk*, int, int) { return -1; }
 int Mix_Volume(int, int) { return 0; }
 

@@ -13,18 +13,30 @@
 //     roundendN   wave N, from 2 to 4, undefended and just before its end: the last of its grunts is still on its way
 //     defeat      the moment before the last grunt spoils the water
 //     preview     a turret is about to be bought
-#define main SDL_main
-#include "../src/main.cpp"
-#undef main
+
+#include "Entity/Weapon.h"
+#include "Game/Game.h"
+#include "Vecteur/Vecteur2D.h"
+#include "drawing.h"
+#include "sdlglutils.h"
+#include "sound.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+#include <SDL_opengl.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace {
 
+constexpr int WIDTH = 1024;
+constexpr int HEIGHT = 768;
 constexpr double STEP = 0.02; // seconds
 
 /// What goes on in front of the window: where the mouse is, and whether its button is held.
@@ -114,7 +126,7 @@ void play(Game& game, Player& player, double time) {
         game.shoot(player.mouse);
     }
     game.update(STEP);
-    prepareFrame();
+    prepareFrame(WIDTH, HEIGHT);
     game.draw(1000 * STEP, player.mouse[0], player.mouse[1]);
     glFlush();
 }
@@ -129,12 +141,22 @@ bool isClosed() {
 }
 
 
+/// Waits until the step's time has passed since the previous frame was shown, and answers when this one was: the game's
+/// own pace.
+Uint32 waitFor(Uint32 previous) {
+    constexpr auto STEP_MILLISECONDS = static_cast<Uint32>(1000 * STEP);
+    const Uint32 now = SDL_GetTicks();
+    if (now - previous < STEP_MILLISECONDS)
+        SDL_Delay(STEP_MILLISECONDS - (now - previous));
+    return now;
+}
+
+
 /// The milliseconds of work that each frame took.
 std::vector<double> run(Game& game, Player& player, double seconds, const char* picture) {
     using Clock = std::chrono::steady_clock;
     std::vector<double> work;
-    Uint32 now = SDL_GetTicks();
-    Uint32 before = now;
+    Uint32 shown = SDL_GetTicks();
     for (double time = 0; time <= seconds && !isClosed(); time += STEP) {
         const auto start = Clock::now();
         play(game, player, time);
@@ -142,7 +164,7 @@ std::vector<double> run(Game& game, Player& player, double seconds, const char* 
             takeScreenshot(picture);
         SDL_GL_SwapBuffers();
         work.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-        pace(1000 * STEP, now, before);
+        shown = waitFor(shown);
     }
     return work;
 }
@@ -153,10 +175,10 @@ std::vector<double> run(Game& game, Player& player, double seconds, const char* 
 int main(int argc, char** argv) {
     SDL_Init(SDL_INIT_VIDEO);
     openAudio();
-    SDL_SetVideoMode(tailleEcranX, tailleEcranY, 32, SDL_OPENGL);
+    SDL_SetVideoMode(WIDTH, HEIGHT, 32, SDL_OPENGL);
     std::srand(4); // the same ground every time
 
-    Game game(tailleEcranX, tailleEcranY);
+    Game game(WIDTH, HEIGHT);
     Player player;
     if (argc < 2 || !setUp(game, player, argv[1])) {
         std::fputs("vorel-stage SCENE [SECONDS [PICTURE.bmp]]; see bench/stage.cpp for the scenes\n", stderr);
@@ -167,7 +189,7 @@ int main(int argc, char** argv) {
     startTitleMusic();
     setEffectsVolume();
     if (!game.getIsInTitleScreen())
-        startGameMusic(Mix_LoadMUS("Assets/music/Tundrix_Dubstep_RMX_v1.mp3"));
+        startGameMusic(loadMusic("Assets/music/Tundrix_Dubstep_RMX_v1.mp3"));
 
     std::vector<double> work = run(game, player, argc > 2 ? std::atof(argv[2]) : 1e9, argc > 3 ? argv[3] : nullptr);
     std::sort(work.begin(), work.end());

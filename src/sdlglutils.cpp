@@ -23,19 +23,6 @@ SDL_Surface* newRGBASurface(int width, int height) {
 }
 
 
-// The four corners of a quad in the usual order: lower left, lower right, upper right, upper left.
-void quadVertices(double x, double y, double w, double h, const TextureArea& area) {
-    glTexCoord2d(area.left, area.bottom);
-    glVertex2d(x, y);
-    glTexCoord2d(area.right, area.bottom);
-    glVertex2d(x + w, y);
-    glTexCoord2d(area.right, area.top);
-    glVertex2d(x + w, y + h);
-    glTexCoord2d(area.left, area.top);
-    glVertex2d(x, y + h);
-}
-
-
 Uint8* pixelRow(SDL_Surface* surface, int y) {
     return static_cast<Uint8*>(surface->pixels) + static_cast<std::ptrdiff_t>(y) * surface->pitch;
 }
@@ -92,51 +79,6 @@ GLuint loadTexture(const char* filename, bool useMipMap) {
     SDL_FreeSurface(gl_surface);
     SDL_FreeSurface(picture_surface);
     return glID;
-}
-
-
-void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, const TextureArea& area) {
-    glEnable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glBegin(GL_QUADS);
-    quadVertices(x, y, w, h, area);
-    glEnd();
-    glBindTexture(GL_TEXTURE_2D, 0);
-    glDisable(GL_TEXTURE_2D);
-}
-
-
-void drawDigits(GLuint texture, int number, int count, double w, double h) {
-    glEnable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glBegin(GL_QUADS);
-    int arg = number;
-    for (int i = 0; i < count; ++i) {
-        const int d = arg % 10;
-        arg = (arg - d) / 10;
-        quadVertices(-i * w, 0.0, w, h, {d / 10.0, 0.0, d / 10.0 + 0.1, 1.0});
-    }
-    glEnd();
-    glBindTexture(GL_TEXTURE_2D, 0);
-    glDisable(GL_TEXTURE_2D);
-}
-
-
-void clockwiseQuadVertices(double x, double y, double w, double h, const TextureArea& area) {
-    glTexCoord2d(area.left, area.bottom);
-    glVertex2d(x, y);
-    glTexCoord2d(area.left, area.top);
-    glVertex2d(x, y + h);
-    glTexCoord2d(area.right, area.top);
-    glVertex2d(x + w, y + h);
-    glTexCoord2d(area.right, area.bottom);
-    glVertex2d(x + w, y);
-}
-
-
-void playSound(Mix_Chunk* son, int channel) {
-    constexpr int NO_TIME_LIMIT = -1;
-    Mix_PlayChannelTimed(channel, son, 0, NO_TIME_LIMIT);
 }
 
 

@@ -2,7 +2,11 @@
 
 #include "Entity/Beam.h"
 #include "Game/Game.h"
-#include "sdlglutils.h"
+#include "drawing.h"
+#include "sound.h"
+
+#include <SDL_mixer.h>
+#include <SDL_opengl.h>
 
 #include <cmath>
 #include <cstdlib>

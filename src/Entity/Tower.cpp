@@ -2,7 +2,10 @@
 
 #include "Entity/Ennemi.h"
 #include "Game/Game.h"
+#include "drawing.h"
 #include "sdlglutils.h"
+
+#include <SDL_opengl.h>
 
 namespace {
 

@@ -3,8 +3,12 @@
 #include "Entity/Beam.h"
 #include "Entity/Tower.h"
 #include "Game/Game.h"
-#include "sdlglutils.h"
+#include "drawing.h"
+#include "sound.h"
 #include "utility/utility.h"
+
+#include <SDL_mixer.h>
+#include <SDL_opengl.h>
 
 namespace {
 

@@ -1,6 +1,8 @@
 #include "Game/Game.h"
 
-#include "sdlglutils.h"
+#include "drawing.h"
+
+#include <SDL_opengl.h>
 
 #include <cstdlib>
 #include <string>
@@ -114,9 +116,7 @@ Ground lisser(const Ground& tab_sol) {
 void Game::drawSol(const double& /*dt*/) const {
     // The tile set has 3 columns and 6 rows, the first row on top. The inset keeps neighbouring tiles out.
     constexpr double d = 0.01;
-    glEnable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, m_texture_sol);
-    glBegin(GL_QUADS);
+    const TexturedBatch batch(m_texture_sol, GL_QUADS);
     for (int x = 0; x < largeur; ++x)
         for (int y = 0; y < hauteur; ++y) {
             const int id = m_sol[x][y];
@@ -125,7 +125,4 @@ void Game::drawSol(const double& /*dt*/) const {
             clockwiseQuadVertices(x * largeur_case, y * hauteur_case, largeur_case, hauteur_case,
                                   {cx + d, cy + d, cx + 1.0 / 3.0 - d, cy + 1.0 / 6.0 - d});
         }
-    glEnd();
-    glDisable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, 0);
 }

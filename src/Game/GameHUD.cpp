@@ -1,7 +1,10 @@
 #include "Game/Game.h"
 
+#include "drawing.h"
 #include "openglDrawCircle.h"
-#include "sdlglutils.h"
+#include "sound.h"
+
+#include <SDL_opengl.h>
 
 namespace {
 

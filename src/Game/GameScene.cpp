@@ -1,7 +1,9 @@
 #include "Game/Game.h"
 
+#include "drawing.h"
 #include "openglDrawCircle.h"
-#include "sdlglutils.h"
+
+#include <SDL_opengl.h>
 
 #include <cmath>
 
@@ -19,9 +21,7 @@ constexpr double ySkinDiff = 5.0;
 // A slice of the pie around (`x`, `y`), between two of the points on its rim. A fan, for a slice of more than half the
 // pie is not convex.
 void drawSlice(GLuint texture, double x, double y, int first, int last) {
-    glEnable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glBegin(GL_TRIANGLE_FAN);
+    const TexturedBatch batch(texture, GL_TRIANGLE_FAN);
     glTexCoord2d(0.5, 0.5);
     glVertex2d(x, y);
     for (int i = first; i <= last; ++i) {
@@ -29,9 +29,6 @@ void drawSlice(GLuint texture, double x, double y, int first, int last) {
         glTexCoord2d((std::cos(a) + 1) / 2, (std::sin(a) + 1) / 2);
         glVertex2d(x + std::cos(a) * rad, y + std::sin(a) * rad);
     }
-    glEnd();
-    glBindTexture(GL_TEXTURE_2D, 0);
-    glDisable(GL_TEXTURE_2D);
 }
 
 } // namespace
@@ -115,12 +112,10 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
 void Game::drawWavePanel() const {
     glPushMatrix();
     glTranslated(150, 500, 0);
-    glEnable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, m_texture_wave);
-    glBegin(GL_QUADS);
-    clockwiseQuadVertices(0, 0, 512, 256);
-    glEnd();
-    glDisable(GL_TEXTURE_2D);
+    {
+        const TexturedBatch batch(m_texture_wave, GL_QUADS);
+        clockwiseQuadVertices(0, 0, 512, 256);
+    }
 
     glPushMatrix();
     glTranslated(500, 45, 0);

@@ -2,8 +2,10 @@
 
 #include "Entity/Beam.h"
 #include "Entity/Ennemi.h"
-#include "sdlglutils.h"
+#include "sound.h"
 #include "utility/HeterogeneousContainer.h"
+
+#include <SDL_mixer.h>
 
 #include <vector>
 

@@ -1,0 +1,41 @@
+#ifndef DRAWING_H
+#define DRAWING_H
+
+#include <SDL_opengl.h>
+
+// What every screen is drawn with: textured quads, digits, and the frame that they stand in.
+
+/// A part of a texture, in texture coordinates from 0 to 1.
+struct TextureArea {
+    double left, bottom, right, top;
+};
+constexpr TextureArea WHOLE_TEXTURE{0.0, 0.0, 1.0, 1.0};
+
+/// An open batch of vertices with one texture, from its construction to the end of its scope, which leaves texturing
+/// disabled and texture 0 bound. In between OpenGL takes colours, texture coordinates and vertices only.
+class TexturedBatch {
+public:
+    /// `mode` says what the vertices form, as glBegin wants it.
+    TexturedBatch(GLuint texture, GLenum mode);
+    TexturedBatch(const TexturedBatch&) = delete;
+    TexturedBatch& operator=(const TexturedBatch&) = delete;
+    ~TexturedBatch();
+};
+
+/// Clears the window and lets coordinates be its pixels, y upwards from the lower-left corner, and colours blend by
+/// their alpha. `width` and `height` are the window's, in pixels.
+void prepareFrame(int width, int height);
+
+/// Draws one quad of `w` x `h` pixels with its lower-left corner at (`x`, `y`), in the current colour.
+void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, const TextureArea& area = WHOLE_TEXTURE);
+
+/// Draws the last `count` digits of `number`, which must not be negative, in the current colour. The units stand with
+/// their lower-left corner at the origin, the other digits to their left, each `w` x `h` pixels. The texture holds the
+/// digits 0 to 9 side by side.
+void drawDigits(GLuint texture, int number, int count, double w, double h);
+
+/// Emits the corners of one quad into an open batch of quads, lower left, upper left, upper right, lower right: the
+/// other way round than drawTexturedQuad.
+void clockwiseQuadVertices(double x, double y, double w, double h, const TextureArea& area = WHOLE_TEXTURE);
+
+#endif
