@@ -5,14 +5,19 @@
 #include <cmath>
 
 void openglDrawCircle(const Vecteur2D& vect, const double& radius, const unsigned int& pressison) {
+    openglDrawCircle(vect[0], vect[1], radius, pressison);
+}
+
+
+void openglDrawCircle(double x, double y, double radius, unsigned int pressison) {
     glPushMatrix();
     glColor4d(1, 0, 0, 0.1);
     glBegin(GL_POLYGON);
     for (unsigned int i = 0; i < pressison; ++i) {
         const double a = i * (2 * Vecteur2D::PI) / pressison;
-        glVertex2d(vect[0] + std::cos(a) * radius, vect[1] + std::sin(a) * radius);
+        glVertex2d(x + std::cos(a) * radius, y + std::sin(a) * radius);
     }
-    glVertex2d(vect[0] + radius, vect[1]);
+    glVertex2d(x + radius, y);
     glEnd();
     glColor4d(1, 1, 1, 1);
     glPopMatrix();

@@ -27,7 +27,14 @@ Vecteur2D& Entity::getPos() { return position; }
 void Entity::setPosition(const Vecteur2D& vect) { position = vect; }
 
 
-double Entity::distanceTo(const Vecteur2D& point) const { return position.distance(point); }
+double Entity::distanceTo(const Vecteur2D& point) const { return distanceTo(point[0], point[1]); }
+
+
+double Entity::distanceTo(double x, double y) const {
+    const double dx = position[0] - x;
+    const double dy = position[1] - y;
+    return std::sqrt(dx * dx + dy * dy);
+}
 
 
 Vecteur2D Entity::getPosCase() const {

@@ -50,8 +50,9 @@ public:
     double getX() const { return position[0]; }
     double getY() const { return position[1]; }
 
-    /// The distance to `point` in pixels; copies and allocates nothing.
+    /// The distance to a point in pixels.
     double distanceTo(const Vecteur2D& point) const;
+    double distanceTo(double x, double y) const;
 
     /// The column and row of the cell that the position lies in.
     Vecteur2D getPosCase() const;

@@ -97,13 +97,12 @@ void Weapon::update(const double& time, const Game& game) {
 void Weapon::draw(const double& time) const {
     const double x = getX();
     const double y = getY();
-    const double t = 2.0;
-    const double tx = Game::largeur_case;
-    const double ty = Game::hauteur_case;
+    constexpr double w = SIZE_IN_CELLS * Game::largeur_case;
+    constexpr double h = SIZE_IN_CELLS * Game::hauteur_case;
 
     glPushMatrix();
-    glTranslated(-t * tx / 2, -t * ty / 2, 0);
-    drawTexturedQuad(m_texture, x, y, t * tx, t * ty);
+    glTranslated(-w / 2, -h / 2, 0);
+    drawTexturedQuad(m_texture, x, y, w, h);
     glPopMatrix();
 
     for (const Beam* beam : beams)

@@ -46,6 +46,8 @@ public:
 
     /// The price of a turret in the shop.
     static constexpr int price = 1000;
+    /// The side of its square picture.
+    static constexpr double SIZE_IN_CELLS = 2.0;
     /// The sounds of a shot and of a turret being built; the main loop owns them.
     static Mix_Chunk* son_stream;
     static Mix_Chunk* son_construct;

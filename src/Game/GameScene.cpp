@@ -44,7 +44,6 @@ void Game::draw(const double& dt, const double& x, const double& y) const {
     m_tower.draw(dt);
     m_waves[currentWave].draw(dt);
 
-    const Vecteur2D mousePos(x, y);
     const int mouseX = static_cast<int>(x);
     const int mouseY = static_cast<int>(y);
     if (tourelleActivite())
@@ -53,8 +52,8 @@ void Game::draw(const double& dt, const double& x, const double& y) const {
     constexpr double waeponRadiusForMouse = 40.0;
     for (Weapon* w : weapons) {
         w->draw(dt);
-        if (w->distanceTo(mousePos) < waeponRadiusForMouse && isPlaying())
-            openglDrawCircle(w->getPos(), w->getRadius(), 40);
+        if (w->distanceTo(x, y) < waeponRadiusForMouse && isPlaying())
+            openglDrawCircle(w->getX(), w->getY(), w->getRadius(), DISC_SEGMENTS);
     }
 
     drawGUI(dt, mouseX, mouseY);
