@@ -59,9 +59,7 @@ void Entity::setIsSolide(bool solide) { _isSolide = solide; }
 
 
 bool Entity::isColliding(Entity& entity) const {
-    if (!isSolide() || !entity.isSolide() || &entity == this || !isActivate || !entity.getIsActivate())
-        return false;
-    return discsOverlap(entity.getX() - getX(), entity.getY() - getY(), collideBoxWidth, entity.getCollideBoxWidth());
+    return canCollide() && entity.canCollide() && discsTouch(getDisc(), entity.getDisc());
 }
 
 

@@ -65,11 +65,20 @@ public:
 
     /// Takes part in the collisions of this step: solid and in play.
     bool canCollide() const { return isSolide() && getIsActivate(); }
-    /// Two discs overlap, given their centres' distances on both axes and their radii, all in pixels.
-    static bool discsOverlap(double dx, double dy, double radius, double otherRadius) {
-        return radius + otherRadius > std::sqrt(dx * dx + dy * dy);
+    /// What a pair is judged by: the centre and the radius in pixels, and whose disc it is. Plain numbers, for a step
+    /// judges every pair of objects.
+    struct Disc {
+        double x, y, radius;
+        const Entity* entity;
+    };
+    Disc getDisc() const { return {getX(), getY(), collideBoxWidth, this}; }
+    /// The discs of two objects overlap; touching at one point only does not count, nor does an object touch itself.
+    static bool discsTouch(const Disc& one, const Disc& other) {
+        const double dx = other.x - one.x;
+        const double dy = other.y - one.y;
+        return one.radius + other.radius > std::sqrt(dx * dx + dy * dy) && one.entity != other.entity;
     }
-    /// The discs overlap; touching at one point only does not count, nor does an object touch itself.
+    /// Both take part in collisions, and their discs touch.
     bool isColliding(Entity& entity) const;
 
 private:

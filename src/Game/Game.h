@@ -1,10 +1,12 @@
 #ifndef GAME_H
 #define GAME_H
 
+#include "Entity/Entity.h"
 #include "Entity/Tower.h"
 #include "Entity/Weapon.h"
 #include "Vecteur/Vecteur2D.h"
 #include "Wave/Wave.h"
+#include "utility/HeterogeneousContainer.h"
 
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>
@@ -179,6 +181,12 @@ private:
     const double heigth;
     double timeLoos;
     bool continueToPlay;
+
+    // Who can be in a pair, their discs in the same order, and the pairs found. They say something only while
+    // collisions are resolved, and are members to keep their memory from step to step.
+    std::vector<Entity*> entitys;
+    std::vector<Entity::Disc> discs;
+    std::vector<Duo<Entity*, Entity*>> encounters;
 };
 
 #endif

@@ -3,11 +3,10 @@
 #include "Entity/Beam.h"
 #include "Entity/Ennemi.h"
 #include "sound.h"
-#include "utility/HeterogeneousContainer.h"
 
 #include <SDL_mixer.h>
 
-#include <vector>
+#include <cstddef>
 
 namespace {
 
@@ -85,35 +84,31 @@ void Game::releaseEnnemis() {
 
 
 void Game::resolveCollisions() {
-    // What can be in a pair at all, in the order in which encounters count: plain numbers, for every pair of them is
-    // looked at.
-    struct Disc {
-        double x, y, radius;
-        Entity* entity;
+    entitys.clear();
+    discs.clear();
+    encounters.clear();
+
+    // In the order in which encounters count.
+    const auto add = [this](Entity* entity) {
+        if (!entity->canCollide())
+            return;
+        entitys.push_back(entity);
+        discs.push_back(entity->getDisc());
     };
-    std::vector<Disc> entitys;
-    const auto add = [&entitys](Entity* entity) {
-        if (entity->canCollide())
-            entitys.push_back({entity->getX(), entity->getY(), entity->getCollideBoxWidth(), entity});
-    };
-    std::vector<Ennemi>& ennemis = m_waves[currentWave].getEnnemisInGame();
-    entitys.reserve(1 + weapons.size() + ennemis.size());
     add(&m_tower);
     for (Weapon* w : weapons) {
         add(w);
         for (Beam* beam : w->getBeams())
             add(beam);
     }
-    for (Ennemi& ennemi : ennemis)
+    for (Ennemi& ennemi : m_waves[currentWave].getEnnemisInGame())
         add(&ennemi);
 
     // Find everything before anything reacts, so that no reaction makes or breaks an encounter of this step.
-    std::vector<Duo<Entity*, Entity*>> encounters;
-    encounters.reserve(entitys.size());
-    for (const Disc& one : entitys)
-        for (const Disc& other : entitys)
-            if (Entity::discsOverlap(other.x - one.x, other.y - one.y, one.radius, other.radius) && &one != &other)
-                encounters.emplace_back(one.entity, other.entity);
+    for (size_t i = 0; i < discs.size(); ++i)
+        for (size_t j = 0; j < discs.size(); ++j)
+            if (Entity::discsTouch(discs[i], discs[j]))
+                encounters.emplace_back(entitys[i], entitys[j]);
 
     for (const auto& encounter : encounters)
         encounter.getFirst()->collide(encounter.getSecond());

@@ -1,8 +1,8 @@
 #ifndef HETEROGENEOUS_CONTAINER_H
 #define HETEROGENEOUS_CONTAINER_H
 
-/// Two values of any types, held by value: in the collision pass an entity and the entities that it
-/// touches. Pointers in it own nothing.
+/// Two values of any types, held by value: in the collision pass two entities that touch. Pointers in it own
+/// nothing.
 template <typename Type1, typename Type2>
 class Duo {
 public:
