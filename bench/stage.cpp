@@ -61,7 +61,7 @@ void jumpToWave(Game& game, int number) {
 }
 
 
-/// Ten turrets like the shop's, which need no water: they hold out for minutes.
+/// Ten turrets like the shop's, but they need no water, so they can fire for minutes.
 void placeTurrets(Game& game) {
     constexpr int PLACES[][2] = {{416, 448}, {608, 448}, {416, 256}, {608, 256}, {512, 512},
                                  {512, 192}, {320, 352}, {704, 352}, {288, 512}, {736, 192}};

@@ -29,6 +29,10 @@ void prepareFrame(int width, int height);
 /// Draws one quad of `w` x `h` pixels with its lower-left corner at (`x`, `y`), in the current colour.
 void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, const TextureArea& area = WHOLE_TEXTURE);
 
+/// The size of a digit in the game's picture of digits, in pixels.
+constexpr double DIGIT_WIDTH = 32.0;
+constexpr double DIGIT_HEIGHT = 64.0;
+
 /// Draws the last `count` digits of `number`, which must not be negative, in the current colour. The units stand with
 /// their lower-left corner at the origin, the other digits to their left, each `w` x `h` pixels. The texture holds the
 /// digits 0 to 9 side by side.

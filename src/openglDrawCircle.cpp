@@ -10,8 +10,9 @@ void openglDrawCircle(const Vecteur2D& vect, const double& radius, const unsigne
 
 
 void openglDrawCircle(double x, double y, double radius, unsigned int pressison) {
+    constexpr double DISC_ALPHA = 0.1;
     glPushMatrix();
-    glColor4d(1, 0, 0, 0.1);
+    glColor4d(1, 0, 0, DISC_ALPHA);
     glBegin(GL_POLYGON);
     for (unsigned int i = 0; i < pressison; ++i) {
         const double a = i * (2 * Vecteur2D::PI) / pressison;

@@ -45,14 +45,15 @@ void setEffectsVolume() {
 }
 
 
-// The mixer refuses a file that is missing or empty, but its MP3 decoder trusts all others: bytes that are no music
-// bring it down. A track begins with a tag or with a frame of MPEG-1 layer III.
+// The mixer refuses a missing file and takes an empty one for a track, both without harm; but noise can crash its MP3
+// decoder, and the game with it. A track begins with a tag or with a frame of MPEG-1 or MPEG-2 layer III. What follows
+// such a beginning is not looked at: noise there still reaches the decoder.
 Mix_Music* loadMusic(const char* path) {
     std::array<unsigned char, 2> start{};
     std::ifstream file(path, std::ios::binary);
     file.read(reinterpret_cast<char*>(start.data()), start.size());
     const bool tag = start[0] == 'I' && start[1] == 'D';
-    const bool frame = start[0] == 0xFF && (start[1] & 0xFE) == 0xFA;
+    const bool frame = start[0] == 0xFF && (start[1] & 0xF6) == 0xF2;
     return file && !tag && !frame ? nullptr : Mix_LoadMUS(path);
 }
 

@@ -3,7 +3,7 @@
 
 #include <SDL_mixer.h>
 
-// What the game is heard with: the mixer, the sounds that its classes play, and the music.
+// The sound of the game: the mixer, the sounds that the classes play, and the music.
 
 /// Lets the mixer choose the first free channel.
 constexpr int FIRST_FREE_CHANNEL = -1;

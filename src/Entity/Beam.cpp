@@ -62,9 +62,9 @@ void Beam::draw(const double& /*dt*/) const {
 
     const double x = getX();
     const double y = getY();
-    const double t = 0.3;
-    const double tx = Game::largeur_case;
-    const double ty = Game::hauteur_case;
+    constexpr double JET_IN_CELLS = 0.3;
+    constexpr double w = JET_IN_CELLS * Game::largeur_case;
+    constexpr double h = JET_IN_CELLS * Game::hauteur_case;
 
     // The picture points to the right; turn it to the direction of flight.
     glPushMatrix();
@@ -74,11 +74,12 @@ void Beam::draw(const double& /*dt*/) const {
     glTranslated(-x - width / 2, -y - length / 2, 0);
 
     if (explose) {
-        const double f = 4.0;
+        // The splash is larger than the jet, and its row of the sheet is the lower one.
+        constexpr double f = 4.0;
         const double cx = static_cast<double>(sprite) / EXPLOSION_FRAMES;
-        drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});
+        drawTexturedQuad(m_explosion, x, y, f * w, f * h, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});
     } else {
-        drawTexturedQuad(m_texture, x, y, t * tx, t * ty);
+        drawTexturedQuad(m_texture, x, y, w, h);
     }
 
     glColor4d(1, 1, 1, 1);

@@ -19,6 +19,13 @@ constexpr int FACINGS = 4;
 enum Facing { RIGHT, UP, LEFT, DOWN };
 constexpr double SECONDS_PER_WALK_FRAME = 0.1666;
 
+// Headings, in degrees, on which a grunt changes its facing.
+constexpr double EIGHTH_TURN = 45.0;
+constexpr double THREE_EIGHTHS_TURN = 135.0;
+
+// How many of a hundred deaths are drawn wrong, on purpose.
+constexpr int GLITCHES_PER_HUNDRED = 19;
+
 } // namespace
 
 
@@ -44,10 +51,9 @@ void Ennemi::removeHealth(const double& healthMinus) {
     if (isAlive())
         return;
 
-    // About one death in five is drawn wrong, on purpose.
     playSound(son_explosion);
     playSound(son_grunt);
-    glitch = std::rand() % 100 > 80;
+    glitch = std::rand() % 100 >= 100 - GLITCHES_PER_HUNDRED;
     explose = true;
 }
 
@@ -96,11 +102,11 @@ void Ennemi::update(const double& dt, const Game& game) {
 
 void Ennemi::face(double dx, double dy) {
     const double alpha = Vecteur2D::normaliserAngle(Vecteur2D::angleOf(dx, dy));
-    if (-45 < alpha && alpha < 45)
+    if (-EIGHTH_TURN < alpha && alpha < EIGHTH_TURN)
         direction = RIGHT;
-    else if (45 < alpha && alpha < 135)
+    else if (EIGHTH_TURN < alpha && alpha < THREE_EIGHTHS_TURN)
         direction = UP;
-    else if (alpha > 135 || alpha < -135)
+    else if (alpha > THREE_EIGHTHS_TURN || alpha < -THREE_EIGHTHS_TURN)
         direction = LEFT;
     else
         direction = DOWN;
@@ -113,23 +119,29 @@ void Ennemi::draw(const double& /*dt*/) const {
 
     const double x = getX();
     const double y = getY();
-    const double t = 1.0;
     const double tx = Game::largeur_case;
     const double ty = Game::hauteur_case;
 
     glPushMatrix();
     if (!explose) {
         // The margins keep the neighbouring frames of the sheet out.
+        constexpr double SIDE_MARGIN = 0.001;
+        constexpr double BOTTOM_MARGIN = 0.01;
+        constexpr double TOP_MARGIN = 0.003;
         const double cx = static_cast<double>(n_sprite) / WALK_FRAMES;
         const double r = 1 - static_cast<double>(direction) / FACINGS;
-        glTranslated(-t * tx / 2, -t * ty / 2, 0);
-        drawTexturedQuad(m_texture, x, y, t * tx, t * ty, {cx + 0.001, r - 0.25 + 0.01, cx + 0.25 - 0.001, r - 0.003});
+        glTranslated(-tx / 2, -ty / 2, 0);
+        drawTexturedQuad(m_texture, x, y, tx, ty,
+                         {cx + SIDE_MARGIN, r - 1.0 / FACINGS + BOTTOM_MARGIN, cx + 1.0 / WALK_FRAMES - SIDE_MARGIN,
+                          r - TOP_MARGIN});
     } else {
-        // A glitch cuts the sheet of walking grunts as if it were the explosion's.
-        const double f = glitch ? 1.0 : 3.0;
+        // The explosion's row of its sheet is the upper one. A glitch cuts the sheet of walking grunts in the same way,
+        // and is no larger than a grunt.
+        constexpr double EXPLOSION_IN_CELLS = 3.0;
+        const double f = glitch ? 1.0 : EXPLOSION_IN_CELLS;
         const double cx = static_cast<double>(e_sprite) / EXPLOSION_FRAMES;
-        glTranslated(-f * t * tx / 2, -f * t * ty / 2, 0);
-        drawTexturedQuad(glitch ? m_texture : m_explosion, x, y, f * t * tx, f * t * ty,
+        glTranslated(-f * tx / 2, -f * ty / 2, 0);
+        drawTexturedQuad(glitch ? m_texture : m_explosion, x, y, f * tx, f * ty,
                          {cx, 0.5, cx + 1.0 / EXPLOSION_FRAMES, 1.0});
     }
     glColor4d(1, 1, 1, 1);

@@ -75,24 +75,24 @@ void Tower::update(const double& /*dt*/, const Game& /*game*/) {}
 void Tower::draw(const double& /*dt*/) const {
     const int x = static_cast<int>(getX());
     const int y = static_cast<int>(getY());
-    const double t = 4.0;
-    const double tx = Game::largeur_case;
-    const double ty = Game::hauteur_case;
+    constexpr double SIZE_IN_CELLS = 4.0;
+    constexpr double w = SIZE_IN_CELLS * Game::largeur_case;
+    constexpr double h = SIZE_IN_CELLS * Game::hauteur_case;
 
     glPushMatrix();
-    glTranslated(-t * tx / 2, -t * ty / 2, 0);
+    glTranslated(-w / 2, -h / 2, 0);
     glColor4d(1, 1, 1, 1);
-    drawTexturedQuad(m_texture_fond, x, y, t * tx, t * ty);
+    drawTexturedQuad(m_texture_fond, x, y, w, h);
 
     // The water is squeezed towards this height above the sprite's bottom, and reddens with its pollution.
-    const double posy = 62.0;
+    constexpr double posy = 62.0;
     const double factor = m_water / m_capacity;
     const double decallage = (1 - factor) * posy;
     glColor4d(1, 1 - getRatio(), 1 - getRatio(), 1);
-    drawTexturedQuad(m_texture_eau, x, y + decallage, t * tx, factor * t * ty);
+    drawTexturedQuad(m_texture_eau, x, y + decallage, w, factor * h);
 
     glColor4d(1, 1, 1, 1);
-    drawTexturedQuad(m_texture_devant, x, y, t * tx, t * ty);
+    drawTexturedQuad(m_texture_devant, x, y, w, h);
     glPopMatrix();
 }
 

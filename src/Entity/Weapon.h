@@ -46,7 +46,7 @@ public:
 
     /// The price of a turret in the shop.
     static constexpr int price = 1000;
-    /// The side of its square picture.
+    /// The side of its square picture, in cells.
     static constexpr double SIZE_IN_CELLS = 2.0;
     /// The sounds of a shot and of a turret being built; the main loop owns them.
     static Mix_Chunk* son_stream;

@@ -4,6 +4,8 @@
 #include "sdlglutils.h"
 #include "utility/utility.h"
 
+#include <SDL_mixer.h>
+
 #include <chrono>
 #include <random>
 
@@ -11,10 +13,26 @@ namespace {
 
 constexpr int START_MONEY = 2000;
 
-// Every wave is made of the same grunt, one of which enters each second.
+// Where the tower stands: in the middle, one cell below the centre of the window.
+constexpr double TOWER_X = 512.0;
+constexpr double TOWER_Y = 352.0;
+
+// Every wave is made of the same grunt, which enters this often: so many of it in the first one, and in each later one
+// so many times the number of the waves before it.
+constexpr double SECONDS_BETWEEN_GRUNTS = 1.0;
+constexpr double GRUNT_HEALTH = 100.0;
+constexpr double GRUNT_SPEED = 10.0;
+constexpr double GRUNT_POLLUTION = 10.0;
+constexpr double GRUNT_RADIUS = 20.0;
+constexpr unsigned int GRUNTS_IN_FIRST_WAVE = 1;
+constexpr unsigned int GRUNTS_PER_WAVE_BEFORE = 3;
+
+
 Wave waveOf(unsigned int ennemis) {
-    Wave wave(1.0);
-    wave.addEnnemi(Ennemi(Vecteur2D(0.0), 100.0, 10.0, 10.0, 20.0, 20.0, "test Dummy 1"), ennemis);
+    const Ennemi grunt(Vecteur2D(0.0), GRUNT_HEALTH, GRUNT_SPEED, GRUNT_POLLUTION, GRUNT_RADIUS, GRUNT_RADIUS,
+                       "test Dummy 1");
+    Wave wave(SECONDS_BETWEEN_GRUNTS);
+    wave.addEnnemi(grunt, ennemis);
     return wave;
 }
 
@@ -30,7 +48,7 @@ Mix_Chunk* Game::son_pourwater = nullptr;
 
 
 Game::Game(const double& width, const double& heigth)
-    : temps_son(0), m_tower(Vecteur2D(512.0, 352.0)), x_shop(896), y_shop(412), w_shop(128), h_shop(256),
+    : temps_son(0), m_tower(Vecteur2D(TOWER_X, TOWER_Y)), x_shop(896), y_shop(412), w_shop(128), h_shop(256),
       x_tourelle(960), y_tourelle(563), w_tourelle(64), h_tourelle(64), tourelle_active(false), x_bouteille(0),
       y_bouteille(0), w_bouteille(64), h_bouteille(512), x_argent(844), y_argent(668), w_argent(170), h_argent(85),
       time(0.0), argentGain(0.0), waterDepart(0.0), finalWaterLeft(false), currentWave(0), isInTitleScreen(true),
@@ -62,7 +80,7 @@ Game::Game(const double& width, const double& heigth)
 Game::~Game() { deletePointerInVector(weapons); }
 
 
-void Game::init() { m_waves.push_back(waveOf(1)); }
+void Game::init() { m_waves.push_back(waveOf(GRUNTS_IN_FIRST_WAVE)); }
 
 
 void Game::restart() {
@@ -157,5 +175,5 @@ void Game::startNewWave() {
     time = 0.0;
     currentWave += 1;
     if (m_waves.size() == currentWave)
-        m_waves.push_back(waveOf(static_cast<unsigned int>(currentWave) * 3));
+        m_waves.push_back(waveOf(static_cast<unsigned int>(currentWave) * GRUNTS_PER_WAVE_BEFORE));
 }

@@ -65,7 +65,8 @@ public:
 
     /// Appends wave 0.
     void init();
-    /// A fresh game on the title screen; only the ground stays.
+    /// A fresh game on the title screen. What stays: the ground, the count of waves that a `Wave` has its number from,
+    /// the steps counted towards the next coin sound, and the seconds before the next wave, until a wave ends anew.
     void restart();
 
     // What state it is in.
@@ -182,8 +183,8 @@ private:
     double timeLoos;
     bool continueToPlay;
 
-    // Who can be in a pair, their discs in the same order, and the pairs found. They say something only while
-    // collisions are resolved, and are members to keep their memory from step to step.
+    // Who can be in a pair, their discs in the same order, and the pairs found. They are valid only while
+    // collisions are resolved; as members they keep their memory from step to step.
     std::vector<Entity*> entitys;
     std::vector<Entity::Disc> discs;
     std::vector<Duo<Entity*, Entity*>> encounters;

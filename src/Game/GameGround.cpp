@@ -28,11 +28,20 @@ constexpr int PATCH = 1;
 constexpr int PATCH_TILE = 4;
 constexpr int PLAIN_TILE = 13;
 
-bool groupIsThere() { return std::rand() % 100 < 60; }
+constexpr int GROUPS_PER_HUNDRED = 60;
+constexpr int PATCHES_IN_GROUP = 2;
+
+// The tile set, its first row on top.
+constexpr int TILE_COLUMNS = 3;
+constexpr int TILE_ROWS = 6;
+
+
+bool groupIsThere() { return std::rand() % 100 < GROUPS_PER_HUNDRED; }
 
 
 void creerGroupe(int px, int py, Ground& tab_sol) {
-    for (int i = 0; i < 2; ++i) {
+    // Discs of two to three cells, each at most one cell off the group's own centre in either direction.
+    for (int i = 0; i < PATCHES_IN_GROUP; ++i) {
         const double r = 2.0 + (std::rand() % 10) / 9.0;
         const int y = py + std::rand() % 3 - 1;
         const int x = px + std::rand() % 3 - 1;
@@ -114,15 +123,17 @@ Ground lisser(const Ground& tab_sol) {
 
 
 void Game::drawSol(const double& /*dt*/) const {
-    // The tile set has 3 columns and 6 rows, the first row on top. The inset keeps neighbouring tiles out.
+    // The inset keeps neighbouring tiles out.
     constexpr double d = 0.01;
+    constexpr double w = 1.0 / TILE_COLUMNS;
+    constexpr double h = 1.0 / TILE_ROWS;
     const TexturedBatch batch(m_texture_sol, GL_QUADS);
     for (int x = 0; x < largeur; ++x)
         for (int y = 0; y < hauteur; ++y) {
             const int id = m_sol[x][y];
-            const double cx = (id % 3) / 3.0;
-            const double cy = 1 - (id - id % 3) / 18.0 - 1.0 / 6.0;
+            const double cx = static_cast<double>(id % TILE_COLUMNS) / TILE_COLUMNS;
+            const double cy = 1 - static_cast<double>(id - id % TILE_COLUMNS) / (TILE_COLUMNS * TILE_ROWS) - h;
             clockwiseQuadVertices(x * largeur_case, y * hauteur_case, largeur_case, hauteur_case,
-                                  {cx + d, cy + d, cx + 1.0 / 3.0 - d, cy + 1.0 / 6.0 - d});
+                                  {cx + d, cy + d, cx + w - d, cy + h - d});
         }
 }

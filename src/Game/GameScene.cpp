@@ -9,13 +9,32 @@
 
 namespace {
 
-// The pie chart of the round-end panel.
+// The pie chart of the round-end panel: its segments, radius and centre, and how far off its frame stands.
 constexpr int pressision = 40;
 constexpr double rad = 50.0;
 constexpr double xPosChart = 745.0;
 constexpr double yPosChart = 376.0;
 constexpr double xSkinDiff = 20.0;
 constexpr double ySkinDiff = 5.0;
+
+// The money earned, moved from the counter's place into the panel, then enlarged.
+constexpr double GAIN_ENLARGED = 2.0;
+constexpr double GAIN_MOVED_X = -670.0;
+constexpr double GAIN_MOVED_Y = -550.0;
+
+// The banner of a defeat, a band across the window.
+constexpr double BANNER_Y = 256.0;
+constexpr double BANNER_HEIGHT = 256.0;
+
+// The wave panel, and the last digit of its number, from the panel's corner.
+constexpr double WAVE_PANEL_X = 150.0;
+constexpr double WAVE_PANEL_Y = 500.0;
+constexpr double WAVE_PANEL_WIDTH = 512.0;
+constexpr double WAVE_PANEL_HEIGHT = 256.0;
+constexpr double WAVE_NUMBER_X = 500.0;
+constexpr double WAVE_NUMBER_Y = 45.0;
+constexpr double WAVE_NUMBER_ENLARGED = 2.0;
+constexpr int WAVE_NUMBER_DIGITS = 2;
 
 
 // A slice of the pie around (`x`, `y`), between two of the points on its rim. A fan, for a slice of more than half the
@@ -71,7 +90,7 @@ void Game::drawTitleScreen() const { drawTexturedQuad(m_texture_Title_screen, 0,
 void Game::drawLoosScreen() const {
     constexpr double SECONDS_TO_FADE_IN = 10.0;
     glColor4d(1, 1, 1, timeLoos / SECONDS_TO_FADE_IN);
-    drawTexturedQuad(m_texture_loos_screen, 0, 256, width, 256);
+    drawTexturedQuad(m_texture_loos_screen, 0, BANNER_Y, width, BANNER_HEIGHT);
     drawWavePanel();
     glColor4d(1, 1, 1, 1);
 }
@@ -87,8 +106,8 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
         alpha = 1 - (e - FADES_OUT) / timeDisapearRoundMenu;
     glColor4d(1, 1, 1, alpha);
 
-    // The window shows the middle three quarters of the square picture.
-    drawTexturedQuad(m_texture_welldone, 0, 0, width, heigth, {0.0, 0.125, 1.0, 0.875});
+    constexpr TextureArea MIDDLE_THREE_QUARTERS{0.0, 0.125, 1.0, 0.875}; // of a square picture, as wide as the window
+    drawTexturedQuad(m_texture_welldone, 0, 0, width, heigth, MIDDLE_THREE_QUARTERS);
 
     const double pollution = m_tower.getPollution();
     const double ratio = waterDepart + pollution != 0 ? pollution / (pollution + waterDepart) : 0.0;
@@ -98,8 +117,8 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
     drawSlice(m_texture_Piechart_skin, xPosChart + xSkinDiff, yPosChart + ySkinDiff, 0, 1);
 
     glPushMatrix();
-    glScaled(2, 2, 1);
-    glTranslated(-670, -550, 0);
+    glScaled(GAIN_ENLARGED, GAIN_ENLARGED, 1);
+    glTranslated(GAIN_MOVED_X, GAIN_MOVED_Y, 0);
     afficherArgentGain(dt);
     glPopMatrix();
 
@@ -110,16 +129,17 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
 
 void Game::drawWavePanel() const {
     glPushMatrix();
-    glTranslated(150, 500, 0);
+    glTranslated(WAVE_PANEL_X, WAVE_PANEL_Y, 0);
     {
         const TexturedBatch batch(m_texture_wave, GL_QUADS);
-        clockwiseQuadVertices(0, 0, 512, 256);
+        clockwiseQuadVertices(0, 0, WAVE_PANEL_WIDTH, WAVE_PANEL_HEIGHT);
     }
 
     glPushMatrix();
-    glTranslated(500, 45, 0);
-    glScaled(2, 2, 0);
-    drawDigits(m_texture_argent, static_cast<int>(currentWave) + 1, 2, 32, 64);
+    glTranslated(WAVE_NUMBER_X, WAVE_NUMBER_Y, 0);
+    glScaled(WAVE_NUMBER_ENLARGED, WAVE_NUMBER_ENLARGED, 0);
+    const int number = static_cast<int>(currentWave) + 1; // players count from 1
+    drawDigits(m_texture_argent, number, WAVE_NUMBER_DIGITS, DIGIT_WIDTH, DIGIT_HEIGHT);
     glPopMatrix();
     glPopMatrix();
 }

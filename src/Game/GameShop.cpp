@@ -67,7 +67,8 @@ void Game::dessinerTourelleGrisee(const int& x, const int& y) const {
     constexpr double h = Weapon::SIZE_IN_CELLS * hauteur_case;
     const double cx = snappedX(x) - w / 2;
     const double cy = snappedY(y) - h / 2;
-    glColor4d(1, 1, 1, 0.4);
+    constexpr double PREVIEW_ALPHA = 0.4;
+    glColor4d(1, 1, 1, PREVIEW_ALPHA);
     drawTexturedQuad(m_texture_tourelle, cx, cy, w, h);
     openglDrawCircle(cx + w / 2, cy + h / 2, TURRET_RANGE, DISC_SEGMENTS);
     glColor4d(1, 1, 1, 1);

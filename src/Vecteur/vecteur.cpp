@@ -67,23 +67,18 @@ bool Vecteur::compare(const Vecteur& vectCompare) const {
 }
 
 
+// Its own check first: what goes wrong in a sum is reported under the name that the caller used.
 Vecteur Vecteur::plus(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
         refuseSize(__LINE__, __FILE__, __func__);
-    Vecteur result;
-    for (size_t i = 0; i < size(); ++i)
-        result.addDim(coords[i] + vectAutre.coords[i]);
-    return result;
+    return *this + vectAutre;
 }
 
 
 Vecteur Vecteur::moins(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
         refuseSize(__LINE__, __FILE__, __func__);
-    Vecteur result;
-    for (size_t i = 0; i < size(); ++i)
-        result.addDim(coords[i] - vectAutre.coords[i]);
-    return result;
+    return *this - vectAutre;
 }
 
 
@@ -136,12 +131,7 @@ Vecteur Vecteur::prodVect(const Vecteur& vectAutre) const {
 }
 
 
-double Vecteur::norme() const {
-    double sum = 0.0;
-    for (const double component : coords)
-        sum += component * component;
-    return std::sqrt(sum);
-}
+double Vecteur::norme() const { return std::sqrt(prodScal(*this)); }
 
 
 Vecteur Vecteur::normalise() const {
@@ -150,17 +140,7 @@ Vecteur Vecteur::normalise() const {
 }
 
 
-// The norm of the difference, without building the difference: every pair of objects asks for it.
-double Vecteur::distance(const Vecteur& vectAutre) const {
-    if (size() != vectAutre.size())
-        moins(vectAutre); // raises
-    double sum = 0.0;
-    for (size_t i = 0; i < size(); ++i) {
-        const double difference = coords[i] - vectAutre.coords[i];
-        sum += difference * difference;
-    }
-    return std::sqrt(sum);
-}
+double Vecteur::distance(const Vecteur& vectAutre) const { return moins(vectAutre).norme(); }
 
 
 Vecteur& Vecteur::operator+=(const Vecteur& vect) {

@@ -62,7 +62,7 @@ public:
     double norme() const;
     /// The vector of length 1 in the same direction; a zero vector stays as it is.
     Vecteur normalise() const;
-    /// The norm of the difference; allocates nothing.
+    /// The norm of the difference.
     double distance(const Vecteur& vectAutre) const;
     Vecteur& operator+=(const Vecteur& vect);
     Vecteur& operator-=(const Vecteur& vect);
@@ -85,7 +85,7 @@ private:
     std::vector<double> coords;
 };
 
-// The results are constant on purpose: assigning to a sum is always a slip of the pen.
+// The results are constant on purpose: nobody means to assign to a sum.
 
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2);
 const Vecteur operator-(Vecteur vect1, const Vecteur& vect2);
