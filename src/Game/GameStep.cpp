@@ -105,10 +105,12 @@ void Game::resolveCollisions() {
         add(&ennemi);
 
     // Find everything before anything reacts, so that no reaction makes or breaks an encounter of this step.
-    for (size_t i = 0; i < discs.size(); ++i)
+    for (size_t i = 0; i < discs.size(); ++i) {
+        const Entity::Disc one = discs[i];
         for (size_t j = 0; j < discs.size(); ++j)
-            if (Entity::discsTouch(discs[i], discs[j]))
+            if (Entity::discsTouch(one, discs[j]))
                 encounters.emplace_back(entitys[i], entitys[j]);
+    }
 
     for (const auto& encounter : encounters)
         encounter.getFirst()->collide(encounter.getSecond());

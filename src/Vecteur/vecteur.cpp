@@ -33,12 +33,6 @@ void Vecteur::addDim(double x) { coords.push_back(x); }
 std::string Vecteur::getPrintText() const { return toString(); }
 
 
-double& Vecteur::operator[](size_t pos) { return coords[pos]; }
-
-
-const double& Vecteur::operator[](size_t pos) const { return coords[pos]; }
-
-
 size_t Vecteur::size() const { return coords.size(); }
 
 

@@ -32,8 +32,8 @@ public:
     virtual void addDim(double x);
     virtual std::string getPrintText() const;
     /// Component `pos`, not checked: `pos` must be below size().
-    virtual double& operator[](size_t pos);
-    virtual const double& operator[](size_t pos) const;
+    virtual double& operator[](size_t pos) { return coords[pos]; }
+    virtual const double& operator[](size_t pos) const { return coords[pos]; }
     virtual ~Vecteur() = default;
 
     // Reading.
