@@ -8,7 +8,7 @@ import math
 import cast
 import enamel
 import kit
-from palette import *
+from palette import COPPER_DARK, CREAM_SHADE, OUTLINE, RED, RED_DARK
 
 WIDTH, HEIGHT = 1024, 256
 

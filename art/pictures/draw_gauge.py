@@ -7,7 +7,7 @@ is white to grey, and the bottle's glass, drawn over it, softens both colours wi
 
 import enamel
 import kit
-from palette import *
+from palette import CREAM, OUTLINE
 
 WIDTH, HEIGHT = 128, 1024
 FULL, EMPTY = HEIGHT - 803, HEIGHT - 144
@@ -47,7 +47,7 @@ def bottle():
     parts = [enamel.path(hollow, "none", f'stroke="{OUTLINE}" stroke-width="20" opacity="0.3" filter="url(#soft)" '
                                          'transform="translate(3 5)"')]
     # the wall of the glass, cut open over the hollow
-    parts.append(f'<g mask="url(#wall)">'
+    parts.append('<g mask="url(#wall)">'
                  + enamel.path(hollow, "none", f'stroke="{OUTLINE}" stroke-width="22" stroke-linejoin="round"')
                  + enamel.path(hollow, "none", 'stroke="url(#glass)" stroke-width="14" stroke-linejoin="round"')
                  + "</g>")

@@ -6,7 +6,6 @@ six digits.
 
 import enamel
 import kit
-from palette import *
 
 WIDTH, HEIGHT = 512, 256
 # the sign and the digits, in this picture's units

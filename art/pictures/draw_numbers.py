@@ -6,7 +6,7 @@ what the filter carries over from a neighbour looks the same everywhere.
 
 import enamel
 import kit
-from palette import *
+from palette import BRASS, BRASS_DARK, OUTLINE, STEEL_DARK
 
 CELL, HEIGHT = 64, 128
 

@@ -2,7 +2,7 @@
 
 import enamel
 import kit
-from palette import *
+from palette import BRASS_LIGHT, OUTLINE
 
 
 def main():

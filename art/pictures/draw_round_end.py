@@ -9,7 +9,7 @@ import math
 
 import enamel
 import kit
-from palette import *
+from palette import BRASS, OUTLINE, RED, RED_DARK, RED_LIGHT, WATER, WATER_DEEP, WATER_FOAM, WATER_LIGHT
 
 SIZE = 1024
 PIE_X, PIE_Y, PIE_R = 745, 376, 50

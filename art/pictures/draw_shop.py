@@ -2,7 +2,7 @@
 
 import enamel
 import kit
-from palette import *
+from palette import COPPER, CREAM, GRASS_DARK, GRASS_LIGHT, OUTLINE
 
 WIDTH, HEIGHT = 128, 256
 SLOT_X, SLOT_Y = 96, 73  # the middle of the turret's icon

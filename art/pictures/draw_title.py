@@ -6,7 +6,10 @@ import random
 import cast
 import enamel
 import kit
-from palette import *
+from palette import (
+    BOTTLE_GREEN, BRASS, COPPER, CREAM, CREAM_SHADE, FLOWER, GRASS, GRASS_DARK, GRASS_LIGHT, MEADOW,
+    MEADOW_DARK, MEADOW_LIGHT, OUTLINE, STEEL, WATER, WATER_FOAM, WATER_LIGHT,
+)
 from shapes import blob
 
 WIDTH, HEIGHT = 1024, 768

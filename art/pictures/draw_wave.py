@@ -5,7 +5,7 @@ The plates reach beyond the picture's right edge; the pipes end behind the secon
 
 import enamel
 import kit
-from palette import *
+from palette import CREAM_SHADE, OUTLINE
 
 WIDTH, HEIGHT = 512, 256
 # where the digits hang

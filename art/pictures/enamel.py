@@ -13,7 +13,10 @@ from fontTools.ttLib import TTFont
 from PIL import ImageFilter
 
 import shapes
-from palette import *
+from palette import (
+    BOTTLE_GREEN, BOTTLE_GREEN_LIGHT, BRASS, BRASS_DARK, BRASS_LIGHT, COPPER_DARK, COPPER_LIGHT, CREAM,
+    CREAM_SHADE, OUTLINE, STEEL_DARK, STEEL_LIGHT, WATER, WATER_DEEP, WATER_FOAM, WATER_LIGHT,
+)
 from shapes import circle, gradient, mix, path, radial, rivet
 
 FONTS = {

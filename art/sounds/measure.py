@@ -1,5 +1,5 @@
 #!/usr/bin/python3 -B
-"""Prints a Markdown table of measurements of every sound: measure [file...]"""
+"""Prints a Markdown table of measurements of every sound: measure.py [file...]"""
 
 import pathlib
 import re

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""Plays the real program at random: keys (all but Escape), clicks, wheel and motion; then closes its window.
+"""Plays the real program at random, with keys, clicks, wheel and motion, but never Escape; then closes its window.
 
-    monkey.py PROGRAM SECONDS [SEED]
+    randomPlayer.py PROGRAM SECONDS [SEED]
 
 Prints the resident memory, in kilobytes, some ten times on the way.
 """
@@ -11,8 +11,7 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "packaging"))
-from session import Window
+from window import Window
 
 
 def deed():

@@ -1,21 +1,20 @@
 #!/usr/bin/python3
 """Starts the game once for every file of Assets/ and every way that a disk can break it.
 
-    brokenDisk.py PROGRAM
+    brokenFiles.py PROGRAM
 
-Each game must reach its first wave, take a click and end with status 0. Prints the table of cases tried and survived.
-Run as root, the unreadable files are tried as the user "nobody".
+Each game must open its window, take a key and clicks, and end with status 0 when the window is closed. Prints the table of
+cases tried and survived.
+Root reads every file, so only other users can try the unreadable ones.
 """
 import collections
 import os
 import pathlib
 import shutil
-import subprocess
 import sys
 import tempfile
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "packaging"))
-from session import Window
+from session import play_shortly
 
 
 def half(path):
@@ -35,19 +34,8 @@ FAULTS = {
     "a directory": directory,
     "unreadable": lambda path: path.chmod(0),
 }
-
-
-def survives(program, home):
-    """Whether a game in the folder `home` leaves its title, takes a click and ends with status 0."""
-    with Window(program, home, SDL_AUDIODRIVER="dummy") as window:
-        window.until("a window", lambda picture: window.windows()[1])
-        window.do("key", "a")
-        window.click(992, 600)
-        window.click(640, 480)
-        window.do("sleep", 0.8)
-        window.do("key", "Escape")
-        window.ended()
-    return True
+if os.geteuid() == 0:
+    del FAULTS["unreadable"]
 
 
 def main():
@@ -59,12 +47,12 @@ def main():
         for case in [*([file] for file in files), files]:
             with tempfile.TemporaryDirectory() as home:
                 shutil.copytree(assets, os.path.join(home, "Assets"))
-                os.chmod(home, 0o755)
                 for file in case:
                     breaks(pathlib.Path(home, "Assets", file))
                 tried[fault] += 1
                 try:
-                    survived[fault] += survives(program, home)
+                    play_shortly(program, home, SDL_AUDIODRIVER="dummy")
+                    survived[fault] += 1
                 except SystemExit as complaint:
                     print(f"{fault}: {', '.join(map(str, case))}: {complaint}", flush=True)
     for fault in FAULTS:
