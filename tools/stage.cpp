@@ -181,7 +181,7 @@ int main(int argc, char** argv) {
     Game game(WIDTH, HEIGHT);
     Player player;
     if (argc < 2 || !setUp(game, player, argv[1])) {
-        std::fputs("vorel-stage SCENE [SECONDS [PICTURE.bmp]]; see bench/stage.cpp for the scenes\n", stderr);
+        std::fputs("vorel-stage SCENE [SECONDS [PICTURE.bmp]]; see tools/stage.cpp for the scenes\n", stderr);
         return 1;
     }
 
