@@ -55,7 +55,7 @@ def play(program, directory, **environment):
         window.do("key", "space")
         window.until("the game going on", lambda p: water(p) < water(still) - 5)
 
-        window.until("the round-end panel or the defeat", lambda p: differs(p, field, 200, 300, 820, 450) > 20, 150)
+        window.until("the round-end panel or the defeat", lambda p: differs(p, field, 200, 300, 820, 450) > 20, 300)
         time.sleep(2)
         keep("5-end", window.look())
         window.do("mouseup", 1, "key", "r")

@@ -67,7 +67,7 @@ class Window:
             sys.exit(f"The program ended by itself with status {self.program.returncode}.")
         return rgb("import", "-window", "root")
 
-    def until(self, what, seen, seconds=20):
+    def until(self, what, seen, seconds=60):
         """Waits until a picture of the window satisfies `seen`, and returns it."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
@@ -96,5 +96,5 @@ class Window:
         screen.flush()
 
     def ended(self):
-        if status := self.program.wait(20):
+        if status := self.program.wait(60):
             sys.exit(f"The program ended with status {status}.")
