@@ -1,89 +1,128 @@
 #include "standin/standin.h"
 
-#include <numeric>
-
-using standin::Words, standin::only;
-
 extern "C" int SDL_main(int argc, char** argv);
 
-/// Plays the frames of a session, each ended by a space, and one more in which the window is closed. For each frame: T
-/// on the title screen, f for the field, P for the pause sign over it, and the number of jets in flight.
-static std::string play(const std::string& frames) {
-    std::string seen;
-    standin::clear(), standin::session = frames + "Q ";
-    standin::onFrame = [&seen] {
-        seen += !only(standin::drawn, "Pause").empty() ? "P" : !only(standin::drawn, "Title").empty() ? "T" : "f";
-        if (const size_t jets = only(standin::drawn, "VorelDefence_projectile").size())
-            seen += std::to_string(jets);
-    };
-    EXPECT_EQ(SDL_main(0, nullptr), 0);
-    return seen;
+/// A session, frame by frame: what was drawn, and which screen that is.
+struct Film {
+    std::vector<Lines> drawn;
+    Lines screens;
+
+    size_t count(const std::string& picture, size_t frame) const { return linesStarting(picture, drawn[frame]).size(); }
+
+    void takeFrame() {
+        drawn.push_back(screen.drawn);
+        const bool title = count("TitleScreen", drawn.size() - 1) == 1;
+        const bool paused = count("PauseButton", drawn.size() - 1) == 1;
+        screens.push_back(paused ? "pause" : title ? "title" : "field");
+    }
+
+    size_t firstFrameWith(size_t times, const std::string& picture) const {
+        const auto hasThem = [&](const Lines& frame) { return linesStarting(picture, frame).size() == times; };
+        return std::find_if(drawn.begin(), drawn.end(), hasThem) - drawn.begin();
+    }
+};
+
+struct MainLoop : StandinTest {
+    const Place SHOP{992, 600}, FIELD{200, 568}, BELOW_FIELD{250, 468}, NEAR_FIELD{250, 600}, FAR_AWAY{900, 700};
+
+    /// Plays a session with the whole program, and closes the window in one more frame.
+    static Film play(std::vector<Deed> deeds) {
+        Film film;
+        deeds.insert(deeds.end(), {mouse(SDL_QUIT), frames(1)});
+        for (const Deed& deed : deeds)
+            window.session.insert(window.session.end(), deed.begin(), deed.end());
+        window.onFrame = [&film] { film.takeFrame(); };
+        EXPECT_EQ(SDL_main(0, nullptr), 0);
+        return film;
+    }
+
+    static size_t built() { return linesStarting("TurretConstruction", mixer.played).size(); }
+};
+
+
+TEST_F(MainLoop, opensAndClosesEverythingInOrder) {
+    clocks.calendar = 1234567;
+    EXPECT_EQ(play({}).screens, Lines{"title"}) << "the frame in which the window is closed is finished";
+    expectAsRecorded("startAndEnd", calls);
+    for (size_t texture = 1; texture < textures.size(); ++texture)
+        EXPECT_NE(textures[texture].upload, "4 RGBA") << textures[texture].picture << " has no mipmaps";
+    EXPECT_EQ(dice.seed, 1234567U) << "each start of the program has a ground of its own";
 }
 
-TEST(MainLoop, startsAndShutsDownInOrder) {
-    EXPECT_EQ(play(""), "T") << "a frame in progress is finished";
-    const std::string asked = std::accumulate(standin::calls.begin(), standin::calls.end(), std::string(),
-                                              [](const auto& all, const auto& call) { return all + call + "; "; });
-    EXPECT_EQ(
-        asked,
-        "init 1; caption Vorel Defense INC.; audio 44100 32784 2 1024; channels 10; load Tundrix_Dubstep_RMX_v1; "
-        "video 1024 768 32 2; load EnnemyExplosion; load EnnemyGrunt; load TurretConstruction; load WaterStream; "
-        "load WaterSplash; load CashRegister; load CoinSound; load PourWater; load VorelDefense_TitleScreen; "
-        "load VorelDefense_GameOver; load VorelDefense_WellDone; play VorelDefense_TitleScreen -1; music volume 12; "
-        "volume 0 10; volume 1 10; volume 2 10; volume 3 10; volume 4 10; volume 5 10; volume 6 10; volume 7 10; "
-        "volume 8 10; volume 9 10; ortho 0 1024 0 768; blend 1 1; delay 20; free EnnemyExplosion; free EnnemyGrunt; "
-        "free WaterSplash; free WaterStream; free TurretConstruction; free CashRegister; free CoinSound; "
-        "free PourWater; free VorelDefense_TitleScreen; free VorelDefense_GameOver; free VorelDefense_WellDone; "
-        "free Tundrix_Dubstep_RMX_v1; close audio; quit; ");
-}
 
-
-TEST(MainLoop, saysInAWordWhatGoesWrongAndEndsWellAllTheSame) {
-    SDL_SetError("no audio"), standin::audio = -1;
+TEST_F(MainLoop, saysWhatGoesWrongAndEndsWell) {
     testing::internal::CaptureStdout();
-    EXPECT_EQ(play(" "), "TT") << "a silent game goes on";
-    standin::session.clear(), standin::audio = 0; // asking for the next event now raises an exception
+    SDL_SetError("no audio");
+    mixer.deviceAnswer = -1; // and there is no session: asking for an event raises an exception
     EXPECT_EQ(SDL_main(0, nullptr), 0);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "no audioerror\n");
 }
 
 
-TEST(MainLoop, keysAndButtonsLeaveTheTitlePauseRestartAndQuit) {
-    // What is seen, how often the music of the game starts, and how many turrets are built.
-    const std::tuple<const char*, const char*, size_t, size_t> sessions[] = {{" a _  _ _ r ", "TfPPfPTT", 1, 0},
-                                                                             {"_ r r a_ E ", "fTTff", 3, 0},
-                                                                             {"Wu 1u S2 ", "ffff", 1, 1},
-                                                                             {"SS1u _ S2 _ ", "fPPff", 1, 1}};
-    for (const auto& [frames, seen, fades, built] : sessions) {
-        EXPECT_EQ(play(frames), seen);
-        EXPECT_EQ(only(standin::calls, "fade in Tundrix_Dubstep_RMX_v1 -1 3000").size(), fades) << frames;
-        EXPECT_EQ(only(standin::played, "TurretConstruction@-1").size(), built) << frames;
-    }
+TEST_F(MainLoop, aKeyLeavesTheTitleAndSpacePausesFromThenOn) {
+    const Film film = play({frames(1), key(SDLK_SPACE), frames(1), key(SDLK_SPACE), frames(2), key(SDLK_SPACE)});
+    EXPECT_EQ(film.screens, (Lines{"title", "field", "pause", "pause", "field"}));
+    EXPECT_EQ(film.drawn[2].back(), "PauseButton_64 480,352 544,352 544,416 480,416");
+    EXPECT_EQ(linesStarting("fade in", calls), Lines{"fade in Tundrix_Dubstep_RMX_v1 -1 3000 0"});
 }
 
 
-TEST(MainLoop, holdingTheLeftButtonFiresOnceASecondUntilAnyButtonIsReleased) {
-    // The selection ends with its turret; the next click fires, and presses meanwhile change nothing but the aim.
-    const std::string idle(60, ' ');
-    const std::string seen = play("S1 2 S2 _ " + idle + "_ " + idle + "f " + idle + "n u " + idle);
-    EXPECT_EQ(seen.find("f2"), 1U + 2 * (1 + 62 + 48)) << "50 steps after the first shot, the pause left out";
-    EXPECT_EQ(seen.find("f3"), 1U + 2 * (3 + 61 + 61 + 60)) << "as soon as the mouse is back in range";
-    EXPECT_EQ(standin::played, (Words{"TurretConstruction@-1", "WaterStream@-1", "WaterStream@-1", "WaterStream@-1"}));
+TEST_F(MainLoop, rRestartsOnTheTitleScreenUnpausedAndEscapeQuits) {
+    const Film film = play({key(SDLK_a), frames(1), key(SDLK_SPACE), frames(1), key(SDLK_r), frames(1), key(SDLK_a)});
+    EXPECT_EQ(film.screens, (Lines{"field", "pause", "title", "field"}));
+    EXPECT_EQ(play({key(SDLK_r), frames(1)}).screens[0], "title") << "it starts the game and restarts it at once";
+    EXPECT_EQ(play({key(SDLK_ESCAPE), frames(1)}).screens.size(), 1U);
 }
 
 
-TEST(MainLoop, aClickBetweenWavesIsTakenAtAnyMoment) {
+TEST_F(MainLoop, anyButtonLeavesTheTitleAndOnlyTheLeftOneDoesMore) {
+    EXPECT_EQ(play({click(SHOP, SDL_BUTTON_WHEELUP), frames(1), click(FIELD)}).screens, (Lines{"field", "field"}));
+    EXPECT_EQ(linesStarting("fade in", calls).size(), 1U);
+    EXPECT_EQ(built(), 0U) << "the wheel over the shop selects nothing";
+}
+
+
+TEST_F(MainLoop, theShopsButtonSelectsATurretForOneClickAndLetsGoOfIt) {
+    play({click(SHOP), click(SHOP), click(FIELD)});
+    EXPECT_EQ(built(), 0U) << "let go of";
+    play({click(SHOP), click(FIELD), click(FAR_AWAY)});
+    EXPECT_EQ(built(), 1U) << "the click that leaves the title selects; the selection ends with its turret";
+}
+
+
+TEST_F(MainLoop, theRangeOfATurretIsShownWhereTheMouseIs) {
+    const Film film = play({click(SHOP), click(FIELD), moveTo({192, 583}), frames(1), moveTo({192, 584})});
+    EXPECT_EQ(film.count("no texture 492,544", 0), 1U) << "39 pixels from the turret";
+    EXPECT_EQ(film.count("no texture", 1), 0U) << "40 pixels";
+}
+
+
+TEST_F(MainLoop, aHeldLeftButtonFiresOnceASecondUntilAnyButtonIsReleased) {
+    const Film film = play({click(SHOP), click(BELOW_FIELD), click(SHOP), click(FIELD), press(NEAR_FIELD), frames(20),
+                            key(SDLK_SPACE), frames(60), key(SDLK_SPACE), frames(60), moveTo(FAR_AWAY), frames(60),
+                            press(SHOP), moveTo(NEAR_FIELD), frames(60), release(SDL_BUTTON_WHEELUP), frames(60)});
+    const std::string jet = "VorelDefence_projectile";
+    EXPECT_EQ(film.firstFrameWith(4, jet), 50U + 60) << "a second after the first shot, the pause left out";
+    EXPECT_EQ(film.firstFrameWith(6, jet), 20U + 60 + 60 + 60) << "as soon as the mouse is back in range";
+    EXPECT_EQ(linesStarting("WaterStream", mixer.played).size(), 2U + 2 + 2 + 2);
+    EXPECT_EQ(built(), 2U) << "a press while one is held does not reach the shop";
+}
+
+
+TEST_F(MainLoop, aClickBetweenWavesIsTakenAtAnyMoment) {
     // The only grunt enters on the left and has arrived after 2,512 steps; the next three follow 15 seconds later.
-    standin::nanoseconds = standin::fromLeft;
-    play("a" + std::string(2520, ' ') + "2u" + std::string(929, ' '));
-    EXPECT_EQ(only(standin::drawn, "VorelDefense_grunts").size(), 3U);
+    const Film film = play({key(SDLK_a), frames(2513), click(FIELD), frames(750 + 50)});
+    EXPECT_EQ(film.count("VorelDefense_grunts", 2512), 0U);
+    EXPECT_EQ(film.count("VorelDefense_grunts", film.drawn.size() - 1), 1U);
 }
 
 
-TEST(MainLoop, theWaitOfAFrameCountsTowardsTheNext) {
-    for (const auto& [work, delays] : {std::pair(5, 2U), {0, 2U}, {20, 0U}, {35, 0U}}) {
-        standin::work = work;
-        play("   ");
-        EXPECT_EQ(only(standin::calls, "delay"), Words(delays, "delay " + std::to_string(20 - work)));
+TEST_F(MainLoop, theWaitOfAFrameCountsTowardsTheNext) {
+    for (const auto& [work, waits] :
+         {std::pair(5, Lines{"wait 15", "wait 15"}), {0, {"wait 20", "wait 20"}}, {20, {}}}) {
+        calls.clear();
+        clocks.workOfAFrame = work;
+        play({frames(3)});
+        EXPECT_EQ(linesStarting("wait", calls), waits) << "four frames of " << work << " milliseconds of work";
     }
 }

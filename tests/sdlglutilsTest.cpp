@@ -1,45 +1,66 @@
 #include "sdlglutils.h"
+
 #include "standin/standin.h"
 
 #include <fstream>
 
-using standin::Bytes;
+using Bytes = std::vector<Uint8>;
 
-TEST(Pictures, standUprightAndAreMissingOnlyForMissingFiles) {
-    standin::image = {1, 2, 3, 4, 5, 6, 7, 8};
-    EXPECT_NE(loadTexture("a.png", true), 0U);
-    EXPECT_EQ(standin::texels, (Bytes{8, 7, 6, 5, 4, 3, 2, 1})) << "from the bottom, with the picture's own alpha";
+struct Pictures : StandinTest {};
+
+
+TEST_F(Pictures, loadTextureSetsThemUprightAndFiltersThem) {
+    files.picture = {{1, 2, 3, 4}, {5, 6, 7, 8}};
+    for (const bool mipmaps : {true, false}) {
+        const Texture texture = textures.at(loadTexture("a.png", mipmaps));
+        EXPECT_EQ(screen.texels, (Bytes{5, 6, 7, 8, 1, 2, 3, 4})) << "row by row from the bottom, with their own alpha";
+        EXPECT_EQ(texture.upload, mipmaps ? "4 RGBA mipmaps" : "4 RGBA");
+        EXPECT_EQ(texture.smaller, mipmaps ? GL_LINEAR_MIPMAP_LINEAR : GL_LINEAR);
+        EXPECT_EQ(texture.larger, GL_LINEAR);
+    }
     EXPECT_EQ(loadTexture("nowhere.png", true), 0U);
+    textures.pop_back(); // the game has none without mipmaps
 }
 
 
-TEST(Pictures, ofTheScreenShowWhatTheWindowShowsWhateverItsAlpha) {
-    standin::texels = {10, 20, 30, 0, 40, 50, 60, 128};
+TEST_F(Pictures, takeScreenshotShowsWhatTheWindowShowsWhateverItsAlpha) {
+    screen.texels = {10, 20, 30, 0, 40, 50, 60, 128};
     EXPECT_EQ(takeScreenshot("shot.bmp"), 0);
-    EXPECT_EQ(Bytes(standin::saved.begin() + 54, standin::saved.begin() + 61), (Bytes{30, 20, 10, 0, 60, 50, 40}));
+    EXPECT_EQ(calls, Lines{"read 3 5 1 2"}) << "the whole viewport";
+    const auto firstRow = files.saved.begin() + 54; // behind the headers, blue, green and red
+    EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40}));
     EXPECT_EQ(takeScreenshot("nowhere.bmp"), -1);
 }
 
 
-TEST(Pictures, becomeCursorsOfThreeColours) {
-    standin::image = {255, 9, 9, 9, 127, 9, 9, 9, 128, 9, 9, 128};
-    const std::string file = testing::TempDir() + "cursor.xpm";
-    EXPECT_EQ(XPMFromImage("img/hand.png", file.c_str()), 0);
-    std::ifstream xpm(file);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(xpm), {}),
-              "const char *img/hand[] =\n\t{\n\t\t/* width height num_colors chars_per_pixel */\n\t\t\" 8 3 3 1 \",\n"
-              "\t\t/* colors */\n\t\t\"X c #000000\",\n\t\t\". c #ffffff\",\n\t\t\"  c None\",\n\t\t/* pixels */\n"
-              "\t\t\"X       \",\n\t\t\"        \",\n\t\t\".       \",\n\t\t\"0,0\"\n\t};\n");
+TEST_F(Pictures, XPMFromImageWritesThreeColoursInRowsOfEights) {
+    const Pixel BLACK{9, 9, 9, 255}, CLEAR{9, 9, 9, 127}, RED{128, 9, 9, 128}, GREEN{9, 128, 9, 255},
+        BLUE{9, 9, 128, 255};
+    const std::string file = testing::TempDir() + "hand.xpm";
+    Lines written;
+    for (const int width : {1, 8}) {
+        files.picture = {BLACK, CLEAR, RED, GREEN, BLUE, BLACK, BLACK, BLACK};
+        files.width = width;
+        EXPECT_EQ(XPMFromImage("img/hand.png", file.c_str()), 0);
+        std::ifstream xpm(file);
+        written.emplace_back(std::istreambuf_iterator<char>(xpm), std::istreambuf_iterator<char>());
+    }
+    expectAsRecorded("hands", written);
     EXPECT_EQ(XPMFromImage("nowhere.png", file.c_str()), -1);
-    const char* hand[] = {" 16 2 3 1 ", "", "", "", "X ........     X", "..........      ", "3,1"};
-    cursorFromXPM(hand);
-    EXPECT_EQ(standin::calls.back(), "cursor 16 2 3 1");
-    EXPECT_EQ(standin::texels, (Bytes{0x80, 0x01, 0, 0, 0xBF, 0xC1, 0xFF, 0xC0}));
 }
 
 
-TEST(Pictures, ofTheAxesLeaveNoColourBehind) {
-    standin::clear(), drawAxis(5);
-    EXPECT_EQ(standin::drawn, standin::Words{"- 6 0,0 5,0 0,0 0 0 1"});
-    EXPECT_TRUE(standin::isAtRest());
+TEST_F(Pictures, cursorFromXPMSetsABitForEachPixel) {
+    const char* hand[] = {" 16 2 3 1 ", "", "", "", "X ........     X", "..........      ", "3,1"};
+    cursorFromXPM(hand);
+    EXPECT_EQ(calls, Lines{"cursor 16 2 3 1"});
+    EXPECT_EQ(files.cursorData, (Bytes{0x80, 0x01, 0x00, 0x00})) << "black";
+    EXPECT_EQ(files.cursorMask, (Bytes{0xBF, 0xC1, 0xFF, 0xC0})) << "black or white";
+}
+
+
+TEST_F(Pictures, drawAxisLeavesNoColourBehind) {
+    drawAxis(5);
+    EXPECT_EQ(screen.drawn, Lines{"no texture 0,0 5,0 0,0 0,0 last of 6 colour 0 0 1 1"});
+    EXPECT_TRUE(screen.isAtRest());
 }

@@ -71,7 +71,7 @@ def play_shortly(program, directory, **environment):
         window.do("key", "a")
         window.click(992, 600)
         window.click(640, 480)
-        window.do("sleep", 1)
+        window.do("sleep", 3)  # a busy machine may be slow to sound the purchase
         window.close()
         window.ended()
 

@@ -1,7 +1,8 @@
-"""The real program in its window on a virtual display, with real keys and clicks; and what its pictures show."""
+"""The real program in its window on a virtual display, with real keys and clicks; what its pictures show, and its sound."""
 import os
 import subprocess
 import sys
+import tempfile
 import time
 
 from Xlib import X, display, error, protocol
@@ -26,6 +27,14 @@ def water(picture):
         red, green, blue = picture[3 * (WIDTH * y + x):][:3]
         return blue > 100 and blue > red + 60
     return sum(sum(blue(x, y) for x in range(8, 56, 4)) >= 6 for y in range(HEIGHT - 512, HEIGHT))
+
+
+def loudest_of(game, *arguments):
+    """The loudest sample, of 32767, that the mixer makes while `game` is played; it writes what it mixes, in real time."""
+    with tempfile.NamedTemporaryFile() as stream:
+        game(*arguments, SDL_AUDIODRIVER="disk", SDL_DISKAUDIODELAY="23", SDL_DISKAUDIOFILE=stream.name)
+        samples = stream.read()
+    return max(map(abs, memoryview(samples[: len(samples) // 2 * 2]).cast("h")), default=0)
 
 
 class Window:

@@ -1,6 +1,6 @@
 #include "Game/play.h"
 
-/// One object of each class around the tower at (512, 352), as the game builds them.
+/// One object of each class around the game's tower at (512, 352), as the game builds them.
 struct Combat : Play {
     Tower tower{{512, 352}};
     Beam jet{10, 80, 300, {100, 100}, 50, 10, {0, 7}};
@@ -8,96 +8,131 @@ struct Combat : Play {
     Ennemi other = grunt;
     Weapon turret = turretAt(100, 100);
 
-    void step(Entity& entity, int steps = 1) {
+    void update(Entity& entity, int steps) const {
         while (steps-- > 0)
             entity.update(0.02, game);
     }
 
-    static Words picture(const Entity& entity) {
-        standin::clear(), entity.draw(20);
-        return standin::drawn;
+    static Lines picture(const Entity& entity) {
+        screen.drawn.clear();
+        entity.draw(20);
+        return screen.drawn;
     }
 };
 
 
-TEST_F(Combat, solidActiveDiscsTouchWhenTheyOverlap) {
-    const std::tuple<Entity*, double, bool> cases[] = {{&other, 39.9, true}, {&other, 40, false}, {&tower, 49.9, true},
-                                                       {&tower, 50, false},  {&jet, 29.9, true},  {&turret, 0, false}};
-    for (const auto& [thing, distance, touches] : cases) {
-        thing->setPosition(Vecteur2D(100 + distance, 352));
-        EXPECT_TRUE(grunt.isColliding(*thing) == touches && thing->isColliding(grunt) == touches) << distance;
+TEST_F(Combat, isCollidingWhenDiscsOfSolidActiveObjectsOverlap) {
+    // clang-format off
+    const std::tuple<Entity*, double, bool> cases[] = {
+        {&other, 39.9, true}, {&other, 40, false}, {&tower, 49.9, true}, {&tower, 50, false}, {&jet, 29.9, true},
+        {&jet, 30, false}, {&turret, 0, false}, {&grunt, 0, false}};
+    // clang-format on
+    for (const auto& [thing, distance, collides] : cases) {
+        thing->setPosition({100 + distance, 352});
+        EXPECT_EQ(grunt.isColliding(*thing), collides) << distance;
+        EXPECT_EQ(thing->isColliding(grunt), collides) << distance;
     }
-    other.setPosition(grunt.getPos()), other.onCollideTower(&tower);
-    EXPECT_FALSE(grunt.isColliding(grunt) || grunt.isColliding(other) || other.isColliding(grunt));
 }
 
 
-TEST_F(Combat, theTowerKeepsItsWaterWithinTheTankAndShowsIt) {
+TEST_F(Combat, theTowerKeepsItsWaterWithinTheTank) {
     tower.addPollution(40);
-    EXPECT_TRUE(tower.canRemoveWater(60) && !tower.canRemoveWater(60.5));
-    tower.removeWater(50), tower.addPollution(15);
+    EXPECT_TRUE(tower.canRemoveWater(60));
+    EXPECT_FALSE(tower.canRemoveWater(60.5));
+    tower.removeWater(50);
+    tower.addPollution(15);
     EXPECT_EQ(tower.getPollution(), 50) << "never more pollution than water";
-    tower.addPollution(-60), tower.addPollution(25);
-    EXPECT_EQ(picture(tower)[1], "VorelTower_water_128 448,319 576,319 576,383 1 0.5 0.5 1");
-    tower.removePollution(), tower.removeWater(60);
-    EXPECT_EQ(tower.getWater() + tower.getRatio(), 0) << "an empty tank has a defined share";
+    tower.removeWater(60);
+    EXPECT_EQ(tower.getWater(), 0);
+    EXPECT_EQ(tower.getRatio(), 0) << "an empty tank is not polluted";
+    tower.removePollution();
     tower.refil(170);
     EXPECT_EQ(tower.getPureWaterLeft(), 100);
 }
 
 
-TEST_F(Combat, aJetVanishesBeyondItsRangeOrAfter23FramesOfItsSplash) {
-    Beam burst(jet), exact(10, 15000, 300, {100, 100}, 50, 10, {1, 0});
-    EXPECT_EQ(picture(jet), Words{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6"}) << "upwards";
-    step(exact), step(jet, 188), burst.onCollideEnnemi(&grunt), step(burst, 22);
+TEST_F(Combat, aJetFliesToTheEndOfItsRangeAndVanishes) {
+    EXPECT_EQ(picture(jet), Lines{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6 100.4,100"}) << "upwards";
+    Beam exact(10, 15000, 300, {100, 100}, 50, 10, {1, 0});
+    update(exact, 1);
     EXPECT_TRUE(exact.isSolide()) << "300 pixels are within a range of 300";
-    EXPECT_TRUE(jet.isNeedToBeDelete() && !jet.isSolide() && picture(jet).empty()) << "300.8 pixels are not";
-    EXPECT_EQ(picture(burst), Words{"VorelDefense_explosions_64 110,100 110,138.4 71.6,138.4 > 0.875,0 1,0 1,0.5"});
-    step(burst);
-    EXPECT_TRUE(burst.isNeedToBeDelete());
+    update(jet, 188);
+    EXPECT_TRUE(jet.isNeedToBeDelete()) << "300.8 pixels are not";
 }
 
 
-TEST_F(Combat, aGruntFacesTheTowerAndChangesItsWalkFrameAtEveryNinthStep) {
-    const double cases[][3] = {{100, 352, 0.76}, {512, 100, 0.51}, {900, 352, 0.26}, {512, 700, 0.01},
-                               {512, 352, 0.01}, {412, 252, 0.01}, {612, 252, 0.01}, {412, 452, 0.01}};
+TEST_F(Combat, aJetBurstsOnceAndStandsAsASplashFor23Frames) {
+    const std::string splash = "VorelDefense_explosions_64 110,100 110,138.4 71.6,138.4 71.6,100 part ";
+    jet.onCollideEnnemi(&grunt);
+    update(jet, 15);
+    EXPECT_EQ(picture(jet), Lines{splash + "0,0 0.125,0 0.125,0.5 0,0.5"}) << "the first picture is held";
+    update(jet, 7);
+    EXPECT_EQ(picture(jet), Lines{splash + "0.875,0 1,0 1,0.5 0.875,0.5"});
+    jet.onCollideEnnemi(&grunt);
+    EXPECT_EQ(mixer.played, Lines{"WaterSplash"});
+    update(jet, 1);
+    EXPECT_TRUE(jet.isNeedToBeDelete());
+}
+
+
+TEST_F(Combat, aGruntFacesTheTower) {
+    // In which row of pictures (its lower edge) is one drawn who stands at a place: around the tower and on it, on the
+    // diagonals, and half a degree to both sides of each?
+    constexpr double RIGHT = 0.76, UP = 0.51, LEFT = 0.26, DOWN = 0.01;
+    // clang-format off
+    const std::tuple<double, double, double> cases[] = {
+        {100, 352, RIGHT}, {512, 100, UP}, {900, 352, LEFT}, {512, 700, DOWN}, {512, 352, DOWN}, {412, 252, DOWN},
+        {612, 252, DOWN}, {412, 452, DOWN}, {612, 452, DOWN}, {412, 252.9, RIGHT}, {412, 251.1, UP}, {612, 251.1, UP},
+        {612, 252.9, LEFT}, {612, 451.1, LEFT}, {612, 452.9, DOWN}, {412, 452.9, DOWN}, {412, 451.1, RIGHT}};
+    // clang-format on
     grunt.setSpeed(0);
     for (const auto& [x, y, row] : cases) {
-        grunt.setPosition({x, y}), step(grunt);
-        const std::string shown = picture(grunt)[0];
-        EXPECT_EQ(std::stod(shown.substr(shown.find("> 0.001,") + 8)), row) << shown;
+        grunt.setPosition({x, y});
+        update(grunt, 1);
+        const std::string shown = picture(grunt).at(0);
+        EXPECT_EQ(std::stod(shown.substr(shown.find("part ") + 11)), row) << x << " " << y;
     }
-    step(grunt);
-    EXPECT_EQ(picture(grunt), Words{"VorelDefense_grunts 396,436 428,436 428,468 > 0.251,0.01 0.499,0.01 0.499,0.247"});
 }
 
 
 TEST_F(Combat, aGruntWithoutHealthExplodesWalkingAndIsSometimesDrawnWrong) {
-    standin::dice = {80, 81};
-    grunt.removeHealth(100), step(grunt, 22);
-    EXPECT_EQ(picture(grunt), Words{"VorelDefense_explosions_64 56.4,304 152.4,304 152.4,400 > 0.875,0.5 1,0.5 1,1"});
+    const std::string last = " part 0.875,0.5 1,0.5 1,1 0.875,1"; // the last of eight pictures
+    dice.rolls = {80, 81};
+    grunt.removeHealth(100);
+    update(grunt, 22);
+    EXPECT_EQ(picture(grunt), Lines{"VorelDefense_explosions_64 56.4,304 152.4,304 152.4,400 56.4,400" + last});
     grunt.removeHealth(1);
-    EXPECT_EQ(picture(grunt), Words{"VorelDefense_grunts 88.4,336 120.4,336 120.4,368 > 0.875,0.5 1,0.5 1,1"});
-    Wave wave(1);
-    wave.addEnnemi(grunt, 2), wave.spawnEnnemi({100, 352}), wave.update(0.02, game);
-    EXPECT_FALSE(wave.isFinish()) << "one grunt of the wave has yet to enter";
-    EXPECT_EQ(picture(wave.getEnnemisInGame()[0]), Words{}) << "23 steps after its death";
+    EXPECT_EQ(picture(grunt), Lines{"VorelDefense_grunts 88.4,336 120.4,336 120.4,368 88.4,368" + last});
+    update(grunt, 1);
+    EXPECT_EQ(picture(grunt), Lines{}) << "23 steps after its death";
 }
 
 
 TEST_F(Combat, aTurretFiresWhenReadyInRangeAndPaidFor) {
-    EXPECT_TRUE(!turret.shoot({400.01, 100}, tower) && turret.shoot({400, 100}, tower)) << "exactly in range";
-    step(turret, 49);
-    EXPECT_FALSE(Weapon(turret).shoot({100, 200}, tower)) << "a copy has the same rest to wait";
-    EXPECT_TRUE(Weapon(turret).getBeams().empty()) << "jets stay with the turret that fired them";
-    step(turret), tower.removeWater(98.5);
+    EXPECT_FALSE(turret.shoot({400.01, 100}, tower));
+    EXPECT_TRUE(turret.shoot({400, 100}, tower)) << "exactly in range";
+    update(turret, 49);
+    EXPECT_FALSE(turret.shoot({100, 200}, tower)) << "it rests for a second";
+    Weapon copy(turret);
+    EXPECT_FALSE(copy.shoot({100, 200}, tower)) << "and a copy has the same rest to wait";
+    EXPECT_TRUE(copy.getBeams().empty()) << "jets stay with the turret that fired them";
+    update(turret, 1);
+    tower.removeWater(98.5);
     EXPECT_FALSE(turret.shoot({100, 200}, tower)) << "half a unit does not pay a shot";
     tower.refil(0.5);
-    const size_t read = standin::textures.size();
-    EXPECT_TRUE(turret.shoot({100, 100}, tower)) << "the last unit does";
-    EXPECT_EQ(standin::textures.size(), read) << "no shot reads its pictures again";
-    step(turret, 50), tower.refil(9), turret.shoot({100, 200}, tower), turret.update(10, game);
-    EXPECT_EQ(picture(turret), (Words{"WaterTurret_64x64 68,68 132,68 132,132",
-                                      "VorelDefence_projectile 100,110 100,100.4 109.6,100.4"}))
-        << "two jets are beyond their range at once, the one fired at the turret itself stays";
+    EXPECT_TRUE(turret.shoot({100, 200}, tower)) << "the last unit does";
+}
+
+
+TEST_F(Combat, aTurretDropsSeveralSpentJetsAtOnceAndKeepsTheOthers) {
+    turret.shoot({200, 100}, tower);
+    update(turret, 50);
+    const size_t read = textures.size();
+    turret.shoot({100, 100}, tower); // at its own place, where the jet stays
+    EXPECT_EQ(textures.size(), read) << "no shot reads its pictures again";
+    update(turret, 50);
+    turret.shoot({100, 200}, tower);
+    turret.update(10, game);
+    ASSERT_EQ(turret.getBeams().size(), 1U);
+    EXPECT_EQ(turret.getBeams()[0]->getPos(), turret.getPos());
 }

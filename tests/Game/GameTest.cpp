@@ -1,85 +1,121 @@
 #include "Game/play.h"
 
-TEST_F(Play, aRestartedGameIsAsNewOnTheSameGround) {
-    standin::dice = {99};
-    for (const bool restarted : {false, true}) {
-        EXPECT_EQ(frame(), Words{"TitleScreen 0,0 1024,0 1024,768"});
-        EXPECT_EQ(money(), 2000);
-        EXPECT_FALSE(game.isPlaying() || game.getIsInBetwenWave() || game.tourelleActivite());
-        EXPECT_EQ(game.isContinueToPlay(), !restarted);
-        for (int i = 0; i < (restarted ? 40 : 60); ++i)
-            game.update(0.02);
-        steps(restarted ? 10 : 0);
-        EXPECT_EQ(standin::entered, 0);
-        steps(1);
-        EXPECT_EQ(standin::entered, 1) << "the time on the title screen counts";
-        EXPECT_EQ(game.getTower().getPureWaterLeft() + frame("WaterTurret").size(), 100);
-        game.poserTourelle(800, 600), game.activeTourelle(), steps(2700), game.setContinueToPlay(true);
-        EXPECT_TRUE(money() > 2000 && !game.isPlaying()) << "paid between waves";
-        game.restart(), game.restart();
-    }
-    EXPECT_EQ(standin::dice.size(), 1U) << "no dice are thrown for another ground";
+TEST_F(Play, aNewGameWaitsOnItsTitle) {
+    for (int step = 0; step < 60; ++step)
+        game.update(0.02);
+    EXPECT_EQ(clocks.readings, 0) << "nobody enters";
+    play(1);
+    EXPECT_EQ(clocks.readings, 1) << "the time on the title screen counts";
 }
 
 
-TEST_F(Play, gruntsEnterOutsideTheEdgeThatTheClockChose) {
-    const std::tuple<long long, double, double> cases[] = {
-        {(1LL << 32) + 60911, -30, 351.9975}, {21, 1054, 940.0601}, {139199, 512.0011, -30}};
-    for (const auto& [seed, x, y] : cases) {
-        standin::nanoseconds = seed;
-        EXPECT_NEAR(game.spawnEnnemi().distance(Vecteur2D(x, y)), 0, 1e-4) << seed;
+TEST_F(Play, restartLeavesNothingButTheGround) {
+    const auto state = [this] {
+        return words("money", money(), "water", pureWater(), "selected", game.tourelleActivite(), "shows", seen("")[0]);
+    };
+    const std::string fresh = state();
+    EXPECT_EQ(fresh, "money 2000 water 100 selected 0 shows TitleScreen 0,0 1024,0 1024,768 0,768");
+    game.poserTourelle(800, 600);
+    game.activeTourelle();
+    play(2750);
+    ASSERT_GT(money(), 1000) << "paid between waves";
+    dice.rolls = {99};
+    game.restart();
+    game.restart();
+    EXPECT_EQ(state(), fresh);
+    EXPECT_EQ(dice.rolls.size(), 1U) << "no dice are thrown for another ground";
+    clocks.readings = 0;
+    play(100);
+    EXPECT_EQ(clocks.readings, 1) << "the one grunt of the first wave";
+    EXPECT_EQ(seen("WaterTurret"), Lines{});
+}
+
+
+TEST_F(Play, theDefeatFadesInAnewAfterARestart) {
+    for (const auto& [steps, colour] : {std::pair(101, " colour 1 1 1 0.202"), {1, " colour 1 1 1 0.002"}}) {
+        game.restart();
+        game.addWeapon(turretAt(800, 600, 100));
+        play(51);
+        game.shoot({800, 600});
+        play(steps);
+        EXPECT_EQ(seen("BottleContent").size(), 1U) << "an empty tank has no red band in the gauge";
+        EXPECT_NE(seen("PressRToRestart").at(0).find(colour), std::string::npos) << steps;
     }
 }
 
 
-TEST_F(Play, firesAndLosesOnlyWhilePlayingAndAfterASecondsGrace) {
-    Weapon expensive = turretAt(800, 600, 99.5);
-    game.addWeapon(&expensive), game.addWeapon(turretAt(800, 500, 0.5));
-    expensive.setPosition({0, 0});
-    game.shoot({800, 550}), steps(1);
-    EXPECT_EQ(game.getTower().getWater(), 100) << "nobody fires on the title screen";
-    game.shoot({800, 550}), steps(49);
-    EXPECT_EQ(game.getTower().getWater() + game.hasLoos(), 0) << "the game's turret is a copy, which stayed in range";
-    steps(1);
-    EXPECT_EQ(standin::calls, Words{"volume 8 50"}) << "the jingle of the defeat";
-    EXPECT_EQ(frame("- ", 800, 600), Words{}) << "ranges are shown while playing only";
-    EXPECT_EQ(frame("BottleContent").size(), 1U) << "an empty tank has no polluted band";
-    steps(4000), game.shoot({800, 550});
-    EXPECT_TRUE(standin::played.empty() && standin::entered == 0) << "nobody fires, enters or ends a wave any more";
+TEST_F(Play, spawnEnnemiChoosesAPlaceOutsideTheEdgesByTheClock) {
+    // clang-format off
+    const std::pair<long long, Vecteur2D> cases[] = {
+        {LEFT_OF_TOWER + (1LL << 32), {-30, 351.9975}}, {ABOVE_TOWER, {511.9981, 798}}, // the low 32 bits choose
+        {FAR_RIGHT, {1054, 940.0601}}, {BELOW_TOWER, {512.0011, -30}}};
+    // clang-format on
+    for (const auto& [nanoseconds, place] : cases) {
+        clocks.nanoseconds = nanoseconds;
+        EXPECT_NEAR(game.spawnEnnemi().distance(place), 0, 1e-4) << place;
+    }
+}
+
+
+TEST_F(Play, theGameIsLostWithoutWaterAfterASecondsGrace) {
+    game.addWeapon(turretAt(800, 600, 99.5));
+    game.shoot({800, 550});
+    EXPECT_EQ(pureWater(), 100) << "nobody fires on the title screen";
+    play(1);
+    game.shoot({800, 550});
+    EXPECT_EQ(pureWater(), 0.5);
+    play(49);
+    EXPECT_FALSE(game.hasLoos());
+    play(4000);
+    EXPECT_EQ(mixer.played, (Lines{"WaterStream", "VorelDefense_GameOver on channel 8"})) << "no lost wave ends";
 }
 
 
 TEST_F(Play, defeatIsJudgedBeforeTheWavesEnd) {
-    for (const double cost : {89.0, 89.5}) {
-        game.restart(), game.addWeapon(turretAt(512, 252, cost));
-        steps(1), game.shoot({512, 200}), steps(2511);
-        EXPECT_EQ(standin::played.back(), cost == 89 ? "good job@8" : "defeat@8") << "one unit is left, or half of one";
+    // One unit of pure water is left when the only grunt arrives, or half of one.
+    for (const auto& [cost, ending] :
+         {std::pair(89.0, "VorelDefense_WellDone on channel 8"), {89.5, "VorelDefense_GameOver on channel 8"}}) {
+        game.restart();
+        game.addWeapon(turretAt(512, 252, cost));
+        play(1);
+        game.shoot({512, 200});
+        play(2511);
+        EXPECT_EQ(mixer.played.back(), ending);
     }
 }
 
 
-TEST_F(Play, jetsThatArriveInOneStepAllHurtAndBurst) {
-    steps(52);
-    for (const double y : {350.0, 352.0, 354.0})
-        game.addWeapon(turretAt(0, y, 0, y == 354 ? 1 : 50));
-    game.shoot({-100, 352}), standin::clear(), steps(1);
-    EXPECT_EQ(standin::played, (Words{"boom@-1", "cry@-1", "boom@-1", "cry@-1", "splash@-1", "splash@-1", "splash@-1"}))
-        << "the jets come before the grunt in the list, so each hurts before any of them bursts";
+TEST_F(Play, theWaterDrainsOnlyWhileTimePasses) {
+    play(2512 + 110);
+    const double water = pureWater();
+    ASSERT_LT(water, 90) << "the drain has begun";
+    mixer.played.clear();
+    for (int step = 0; step < 30; ++step)
+        game.update(0);
+    EXPECT_EQ(pureWater(), water);
+    EXPECT_EQ(mixer.played, Lines{}) << "no coins without water";
 }
 
 
-TEST_F(Play, theShopSellsOnItsButtonAndPlacesOnTheLatticeWithRoomAround) {
-    const int clicks[][3] = {{960, 600, 1}, {1024, 600, 1}, {959, 600, 0}, {1025, 600, 0},
-                             {990, 563, 0}, {990, 564, 1},  {990, 627, 1}, {990, 628, 0}};
-    for (const auto& [x, y, hit] : clicks)
-        EXPECT_EQ(game.aCliqueTourelle(x, y), hit != 0) << x << " " << y;
-    // 64 pixels from the tower; 115 from it; 45 from that turret; 64 from it, for the last money; and without money.
-    const int places[][3] = {{607, 383, 2000}, {639, 300, 1000}, {640, 330, 1000}, {672, 300, 0}, {99, 99, 0}};
-    for (const auto& [x, y, left] : places) {
+TEST_F(Play, aCliqueTourelleOnTheButtonWithItsUpperEdge) {
+    const std::tuple<int, int, bool> cases[] = {{960, 600, true},  {1024, 600, true}, {959, 600, false},
+                                                {990, 563, false}, {990, 564, true},  {1025, 600, false},
+                                                {990, 627, true},  {990, 628, false}};
+    for (const auto& [x, y, hit] : cases)
+        EXPECT_EQ(game.aCliqueTourelle(x, y), hit) << x << " " << y;
+}
+
+
+TEST_F(Play, poserTourelleBuysOnTheLatticeWithRoomAround) {
+    // clang-format off
+    const std::tuple<const char*, int, int, int> cases[] = {
+        {"64 pixels from the tower are too near", 607, 383, 2000}, {"115 are not", 639, 300, 1000},
+        {"45 from a turret are too near", 640, 330, 1000}, {"64 are not, and the last money pays", 672, 300, 0},
+        {"nothing without money", 99, 99, 0}};
+    // clang-format on
+    for (const auto& [what, x, y, left] : cases) {
         game.poserTourelle(x, y);
-        EXPECT_EQ(standin::played.size(), x == 639 || x == 672 ? 1U : 0U);
-        EXPECT_EQ(money(), left) << x << " " << y;
+        EXPECT_EQ(money(), left) << what;
     }
-    steps(1);
-    EXPECT_EQ(frame("WaterTurret")[1], "WaterTurret_64x64 640,256 704,256 704,320");
+    EXPECT_EQ(mixer.played, (Lines{"TurretConstruction", "TurretConstruction"}));
 }

@@ -1,51 +1,73 @@
 #include "Game/play.h"
 
-#include <numeric>
+#include <algorithm>
 
 static const Ground meadow(32, std::vector<int>(24, 0));
+struct GroundTest : StandinTest {};
 
 
-TEST(Ground, patchesAreDiscsOfWholeCellsCutAtTheMapsEdge) {
-    const int cases[][4] = {{10, 10, 2, 13}, {10, 10, 3, 29}, {33, 5, 2, 1}, {-1, -1, 2, 1}, {32, 25, 2, 0}};
-    for (const auto& [x, y, r, cells] : cases) {
+TEST_F(GroundTest, creerTacheMarksADiscOfWholeCellsCutAtTheMapsEdge) {
+    const std::tuple<int, int, double, int> cases[] = {{10, 10, 2, 13}, {10, 10, 3, 29}, {10, 10, 2.3, 21},
+                                                       {33, 5, 2, 1},   {-1, -1, 2, 1},  {32, 25, 2, 0}};
+    for (const auto& [x, y, radius, expected] : cases) {
         Ground ground = meadow;
-        creerTache(x, y, r, ground);
-        int patches = 0;
-        for (const auto& column : ground)
-            patches += std::accumulate(column.begin(), column.end(), 0);
-        EXPECT_EQ(patches, cells) << x << " " << y << " " << r;
+        creerTache(x, y, radius, ground);
+        long cells = 0;
+        for (const std::vector<int>& column : ground)
+            cells += std::count(column.begin(), column.end(), 1);
+        EXPECT_EQ(cells, expected) << x << " " << y << " " << radius;
     }
 }
 
 
-TEST(Ground, fiveGroupsDrawTheirDiceInOrder) {
+TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
     // Chance, column and row of a group, then radius, row and column of each of its two patches.
-    standin::dice = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
-                     1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 1, 1, 0, 1,  1};
+    dice.rolls = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
+                  1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 5, 3, 9, 4,  7};
     Ground expected = meadow;
-    for (const auto& [x, y] : {std::pair(9, 7), {25, 5}, {9, 17}, {25, 19}, {16, 12}})
+    for (const auto& [x, y] : {std::pair(9, 7), {25, 5}, {9, 17}, {25, 19}, {15, 13}})
         creerTache(x, y, 2, expected);
-    creerTache(8, 8, 3, expected);
-    EXPECT_EQ(creation_sol(), expected);
-    EXPECT_TRUE(standin::dice.empty() && creation_sol() == meadow) << "chances of 60 are too small";
+    for (const auto& [x, y] : {std::pair(8, 8), {16, 12}})
+        creerTache(x, y, 3, expected);
+    EXPECT_TRUE(creation_sol() == expected);
+    EXPECT_TRUE(creation_sol() == meadow) << "rolls of 60 are no chance";
 }
 
 
-TEST(Ground, everyNeighbourhoodHasItsTile) {
-    // Rows from the top; the cell in the middle is the one asked for.
+TEST_F(GroundTest, lisserGivesEveryNeighbourhoodItsTile) {
+    // Rows from the top, 1 for a patch; the cell in the middle is asked for. The first rule that fits gives its tile,
+    // and plain ground stays where none does.
     const std::pair<const char*, int> cases[] = {
         {"... ... ..1", 0},  {"... ... .1.", 1},  {"... ... 1..", 2},  {"... ..1 ...", 3},  {".1. 1.1 .1.", 4},
         {"... 1.. ...", 5},  {"..1 ... ...", 6},  {".1. ... ...", 7},  {"1.. ... ...", 8},  {"11. 1.. ...", 9},
         {".11 ..1 ...", 11}, {"... ... ...", 13}, {"... 1.. 11.", 15}, {"... ..1 .11", 17}, {"... .1. ...", 4},
         {"..1 ... 1..", 2},  {"1.1 ... 1.1", 0},  {"... 1.1 ...", 13}, {".1. 1.. ...", 13}, {"... 111 ...", 4},
-        {".1. 1.1 ...", 13}, {"1.1 ..1 ...", 3},  {"1.1 ... ...", 6}};
-    for (const auto& [cells, tile] : cases) {
-        Ground raw = meadow;
-        for (int i = 0; i < 9; ++i)
-            raw[29 + i % 3][23 - i / 3] = cells[i / 3 * 4 + i % 3] == '1';
-        EXPECT_EQ(lisser(raw)[30][22], tile) << cells;
+        {".1. 1.1 ...", 13}, {"1.1 ..1 ...", 3},  {"1.1 ... ...", 6},  {"... ..1 .1.", 13}, {"... 1.. .1.", 13}};
+    for (const auto& [left, low] : {std::pair(0, 0), {29, 21}}) // two corners of the map
+        for (const auto& [cells, tile] : cases) {
+            Ground ground = meadow;
+            for (int i = 0; i < 9; ++i)
+                ground[left + i % 3][low + 2 - i / 3] = cells[i / 3 * 4 + i % 3] == '1' ? 1 : 0;
+            EXPECT_EQ(lisser(ground)[left + 1][low + 1], tile) << cells;
+        }
+}
+
+
+TEST_F(GroundTest, drawSolShowsTheTileOfEachCellInItsPlace) {
+    const std::deque<int> rolls{0, 5, 3, 4, 1, 2, 9, 0, 1, 0, 3, 2, 7, 2, 0};
+    dice.rolls = rolls;
+    Game(1024, 768).drawSol(20);
+    dice.rolls = rolls;
+    const Ground tiles = lisser(creation_sol());
+    ASSERT_EQ(screen.longBatch.size(), 4U * 32 * 24);
+    for (int cell = 0; cell < 32 * 24; ++cell) {
+        const Point place(cell / 24, cell % 24);
+        const int tile = tiles[cell / 24][cell % 24];
+        const Point upperLeft(tile % 3 / 3.0, 1 - tile / 3 / 6.0);
+        const Corner* corner = &screen.longBatch[4 * cell];
+        EXPECT_EQ(corner[0].place, 32.0 * place);
+        EXPECT_EQ(corner[2].place, 32.0 * place + Point(32, 32));
+        EXPECT_NEAR(std::abs(corner[0].spot - upperLeft - Point(0.01, 0.01 - 1 / 6.0)), 0, 1e-9) << place;
+        EXPECT_NEAR(std::abs(corner[2].spot - upperLeft - Point(1 / 3.0 - 0.01, -0.01)), 0, 1e-9) << place;
     }
-    Ground corner = meadow;
-    corner[30][22] = corner[5][22] = 1;
-    EXPECT_EQ(lisser(corner)[31][23] * 100 + lisser(corner)[5][23], 201) << "beyond the map there is no patch";
 }

@@ -1,60 +1,151 @@
 #ifndef STANDIN_H
 #define STANDIN_H
 
+#include "utility/utility.h"
+
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <SDL_opengl.h>
 
+#include <array>
+#include <complex>
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
-/// What the tests put in the place of OpenGL, the mixer, SDL's window, the clocks and the dice. The screen keeps the
-/// drawing state as OpenGL does and lists what was drawn; the rest lists what was asked of it and answers as told.
-namespace standin {
+/// What stand-ins write down is text, a line for each thing that happened.
+using Lines = std::vector<std::string>;
 
-using Words = std::vector<std::string>;
-using Bytes = std::vector<Uint8>;
-
-/// drawn: since the last clear, a line for each quad: "picture x,y x,y x,y", its first three corners in window pixels,
-/// then "> s,t s,t s,t" unless it shows the whole picture upright, then the colour unless it is opaque white. The
-/// picture is "-" while texturing is off; a batch that is no quads, or many, has the number of its corners first.
-/// played: every chunk asked for, with its channel: "CoinSound@-1"; -1 is the first free channel.
-/// calls: what else was asked of the window, the mixer and the clock, in order.
-/// textures: the picture of each texture made so far, by its name in OpenGL.
-extern Words drawn, played, calls, textures;
-
-/// What every picture file holds, as alpha, blue, green and red from the top, one pixel a row ("nowhere" has none), and
-/// the bytes of the last texture made, row by row from the bottom, which the screen shows too, or those of the last
-/// cursor, data and mask. And what was saved last.
-extern Bytes image, texels, saved;
-
-/// A session with the window, and what to do when a frame is shown. A space ends a frame; a deed is a key by its
-/// letter, _ for the space bar and E for escape; S presses the left button and W the wheel on the shop's button, 1 and
-/// 2 press the left one in the field at (200, 568) and (250, 468), and u lets go of the wheel; n moves the mouse to
-/// (250, 708) and f far away; Q closes the window.
-extern std::string session;
-extern std::function<void()> onFrame;
-
-/// What time() and the system clock answer, in seconds and in nanoseconds since 1970, and how often the latter was
-/// asked: it seeds the place where a grunt enters. And the milliseconds that the work of a frame takes, and what
-/// opening the audio device answers.
-extern long long calendar, nanoseconds, entered, work, audio;
-/// Seeds with which a grunt enters at (-30, 351.9975), left of the tower, and at (511.9981, 798), above it.
-constexpr long long fromLeft = 60911, fromTop = 224874;
-/// What rand() answers next; once it is used up, 60: no patches on the ground.
-extern std::deque<int> dice;
-
-/// Forgets what was drawn, played, called and entered.
-void clear();
 /// The lines that begin so.
-Words only(const Words& all, const std::string& start);
-/// The state that every drawing routine must leave: no texture, opaque white, all matrices popped.
-bool isAtRest();
-/// A sound that can be told by its name.
-Mix_Chunk* sound(const std::string& name);
+Lines linesStarting(const std::string& start, const Lines& lines);
 
-} // namespace standin
+/// What was asked of the window, the mixer and the projection, all in one order: "volume 8 50".
+inline Lines calls;
+
+/// A name and values, with a space before each.
+template <typename... Values>
+std::string words(const std::string& name, const Values&... values) {
+    return (name + ... + (" " + toString(values)));
+}
+
+/// Writes a call down. The answer is 0, which says that all went well.
+template <typename... Words>
+int call(const Words&... said) {
+    calls.push_back(words(said...));
+    return 0;
+}
+
+using Point = std::complex<double>;
+
+/// Where a corner is in the window, in pixels, and in its picture, from 0 to 1.
+struct Corner {
+    Point place, spot;
+};
+
+/// opengl.cpp
+inline struct Screen {
+    /// What was drawn since the last clear, a line for each quad: its picture, its four corners, those of the part of
+    /// the picture that it shows unless it is all of it, and the colour unless it is opaque white: "TurretIcon_64
+    /// 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Of other shapes it has the first three corners and the last.
+    Lines drawn;
+    /// The last batch of more than ten quads; the lines above have only its first.
+    std::vector<Corner> longBatch;
+    /// The pixels of the last texture made, row by row from the bottom. The window shows them too.
+    std::vector<Uint8> texels;
+    std::array<GLint, 4> viewport{3, 5, 1, 2};
+    /// The state of OpenGL; an empty colour is opaque white.
+    bool texturing = false;
+    GLuint texture = 0;
+    std::string colour;
+    /// A matrix draws a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
+    std::vector<std::pair<Point, Point>> matrices{{1, 0}};
+
+    /// The state in which every drawing routine must leave it.
+    bool isAtRest() const { return !texturing && texture == 0 && colour.empty() && matrices.size() == 1; }
+} screen;
+
+struct Texture {
+    /// The file opened last before it was made, without folder and ending.
+    std::string picture;
+    /// How its pixels came, and the filters for a smaller and a larger picture.
+    std::string upload;
+    GLint smaller, larger;
+};
+/// Every texture by its name in OpenGL. They outlive a test, for objects share theirs.
+inline std::vector<Texture> textures(1);
+
+/// mixer.cpp
+inline struct Mixer {
+    /// Every sound asked for: "CoinSound" on the first free channel, or "defeat on channel 8".
+    Lines played;
+    /// The answer to opening the audio device; -1 is a failure.
+    int deviceAnswer = 0;
+} mixer;
+
+/// window.cpp. Places are in pixels from the lower-left corner, as the game counts them.
+struct Place {
+    int x, y;
+};
+
+/// Something that the player does, or frames that pass: each is an event that SDL does not know.
+using Deed = std::vector<SDL_Event>;
+inline Deed frames(int count) { return Deed(count); }
+Deed key(SDLKey symbol);
+Deed mouse(SDL_EventType type, Place place = {}, Uint8 button = SDL_BUTTON_LEFT);
+inline Deed moveTo(Place place) { return mouse(SDL_MOUSEMOTION, place); }
+inline Deed press(Place place) { return mouse(SDL_MOUSEBUTTONDOWN, place); }
+inline Deed release(Uint8 button) { return mouse(SDL_MOUSEBUTTONUP, {}, button); }
+/// Presses a button and lets go of it.
+Deed click(Place place, Uint8 button = SDL_BUTTON_LEFT);
+
+inline struct Window {
+    /// What is to come. When it is over, asking for another event raises an exception.
+    std::deque<SDL_Event> session;
+    std::function<void()> onFrame = [] {};
+} window;
+
+/// clocksAndDice.cpp. The system clock chooses where a grunt enters: at these nanoseconds at (-30, 351.9975),
+/// (511.9981, 798), (1054, 940.0601) and (512.0011, -30).
+constexpr long long LEFT_OF_TOWER = 60911, ABOVE_TOWER = 224874, FAR_RIGHT = 21, BELOW_TOWER = 139199;
+
+inline struct Clocks {
+    /// What time() answers, in seconds; and the system clock, and how often it was read.
+    long long calendar = 0, nanoseconds = LEFT_OF_TOWER;
+    int readings = 0;
+    /// SDL's clock, which wraps soon, and what the work of a frame adds to it, in milliseconds.
+    Uint32 ticks = 0xFFFFFFF0, workOfAFrame = 0;
+} clocks;
+
+inline struct Dice {
+    /// What rand() answers next; when they are used up, 60, which leaves the ground without patches.
+    std::deque<int> rolls;
+    /// What srand() was told.
+    unsigned int seed = 0;
+} dice;
+
+/// files.cpp
+/// Red, green, blue and alpha.
+using Pixel = std::array<Uint8, 4>;
+
+inline struct Files {
+    /// What every picture file holds, row by row from the top.
+    std::vector<Pixel> picture{{255, 255, 255, 255}};
+    int width = 1;
+    /// The file asked for last, without folder and ending. Each is there, but for "nowhere".
+    std::string opened;
+    /// What was written last, and the bits of the last cursor.
+    std::vector<Uint8> saved = std::vector<Uint8>(1000), cursorData, cursorMask;
+} files;
+
+/// Compares lines with those recorded in tests/recorded/NAME.lines, and says how to accept others.
+void expectAsRecorded(const std::string& name, const Lines& lines);
+
+/// The fixture of every test.
+struct StandinTest : testing::Test {
+    /// Puts every stand-in back, but for the textures.
+    StandinTest();
+};
 
 #endif

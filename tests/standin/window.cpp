@@ -1,0 +1,52 @@
+// In the place of SDL's window and events. The window can always be opened; the events are those of the session that a
+// test writes. By default there is no session.
+
+#include "standin/standin.h"
+
+#include <stdexcept>
+
+Deed key(SDLKey symbol) {
+    SDL_Event event{};
+    event.type = SDL_KEYDOWN;
+    event.key.keysym.sym = symbol;
+    return {event};
+}
+
+
+// SDL counts rows from the window's top. An event of a motion has its place where that of a button has it.
+Deed mouse(SDL_EventType type, Place place, Uint8 button) {
+    SDL_Event event{};
+    event.button = {Uint8(type), 0, button, 0, Uint16(place.x), Uint16(768 - place.y)};
+    return {event};
+}
+
+
+Deed click(Place place, Uint8 button) {
+    return {mouse(SDL_MOUSEBUTTONDOWN, place, button)[0], mouse(SDL_MOUSEBUTTONUP, place, button)[0]};
+}
+
+extern "C" {
+
+int SDL_Init(Uint32 what) { return call("init", what == SDL_INIT_VIDEO ? "video" : "other"); }
+void SDL_Quit() { call("quit"); }
+void SDL_WM_SetCaption(const char* title, const char*) { call("caption", title); }
+SDL_Surface* SDL_SetVideoMode(int w, int h, int bits, Uint32 what) {
+    call("video", w, h, bits, what == SDL_OPENGL ? "OpenGL" : "other");
+    return nullptr;
+}
+int SDL_PollEvent(SDL_Event* next) {
+    if (window.session.empty())
+        throw std::out_of_range("The session is over, and the game goes on.");
+    *next = window.session.front();
+    if (next->type == SDL_NOEVENT)
+        return 0;
+    window.session.pop_front();
+    return 1;
+}
+void SDL_GL_SwapBuffers() {
+    window.onFrame();
+    window.session.pop_front();
+    clocks.ticks += clocks.workOfAFrame;
+}
+
+} // extern "C"
