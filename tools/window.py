@@ -38,18 +38,21 @@ def loudest_of(game, *arguments):
 
 
 class Window:
-    """A virtual display with the program in it; both end with the `with` block."""
+    """A virtual display with the program in it, at its upper left; both end with the `with` block."""
 
-    def __init__(self, program, directory=".", **environment):
+    def __init__(self, program, directory=".", arguments=(), screen=(WIDTH, HEIGHT), stderr=None,
+                 **environment):
         read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", f"{WIDTH}x{HEIGHT}x24"],
+        size = "x".join(map(str, (*screen, 24)))
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", size],
                                        pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as number:
             self.display = ":" + number.readline().strip()
         os.environ["DISPLAY"] = self.display
         try:
-            self.program = subprocess.Popen([os.path.abspath(program)], cwd=directory, env={**os.environ, **environment})
+            self.program = subprocess.Popen([os.path.abspath(program), *arguments], cwd=directory,
+                                            stderr=stderr, env={**os.environ, **environment})
         except OSError as reason:  # the `with` block, which would end the display, is never reached
             self.server.kill()
             self.server.wait()
@@ -74,7 +77,7 @@ class Window:
     def look(self):
         if self.program.poll() is not None:
             sys.exit(f"The program ended by itself with status {self.program.returncode}.")
-        return rgb("import", "-window", "root")
+        return rgb("import", "-window", "root", "-crop", f"{WIDTH}x{HEIGHT}+0+0")
 
     def until(self, what, seen, seconds=60):
         """Waits until a picture of the window satisfies `seen`, and returns it."""
