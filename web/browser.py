@@ -30,7 +30,10 @@ class Server:
         class Handler(http.server.SimpleHTTPRequestHandler):
             def log_message(self, *_):
                 pass
-        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(Handler, directory=folder))
+        class Loopback(http.server.ThreadingHTTPServer):
+            def handle_error(self, *_):  # the browser took no more of a file: it plays other music now
+                pass
+        self.server = Loopback(("127.0.0.1", 0), functools.partial(Handler, directory=folder))
         self.address = "http://127.0.0.1:%d/" % self.server.server_port
         threading.Thread(target=self.server.serve_forever, daemon=True).start()
 

@@ -12,6 +12,8 @@ const arrived = {}; // path: bytes
 let gl;
 let audio;
 let speaker;
+let music;
+let musicVolume;
 let game;
 
 
@@ -67,7 +69,7 @@ async function fetchBytes(path) {
     arrived[path] += part.value.length;
     progress.value = Object.values(arrived).reduce((sum, bytes) => sum + bytes, 0);
   }
-  return new Blob(parts);
+  return new Blob(parts, {type: response.headers.get('content-type')});
 }
 
 
@@ -133,20 +135,31 @@ async function loadAll() {
 }
 
 
+// Only a click lets a page be heard, and in some browsers only what it finds there: so the music has one player for all
+// pieces, which is woken here.
+function openAudio() {
+  audio = new AudioContext();
+  speaker = audio.createGain();
+  speaker.connect(audio.destination);
+  music = new Audio();
+  music.loop = true;
+  music.load();
+  musicVolume = audio.createGain();
+  musicVolume.connect(speaker);
+  audio.createMediaElementSource(music).connect(musicVolume);
+}
+
+
 function play() {
-  // Only a click may let a page be heard.
-  if (!audio) {
-    audio = new AudioContext();
-    speaker = audio.createGain();
-    speaker.connect(audio.destination);
-  }
+  if (!audio)
+    openAudio();
   audio.resume();
 
   front.hidden = true;
   bar.hidden = false;
   canvas.focus();
   game = {
-    gl, audio, speaker, address,
+    gl, audio, speaker, music, musicVolume, address,
     pictures: loaded,
     sounds: loaded,
     instantiateWasm(imports, ready) {
@@ -165,8 +178,16 @@ function end(words) {
   bar.hidden = true;
   front.hidden = false;
   start.focus();
+  audio.suspend();
   if (document.fullscreenElement)
     document.exitFullscreen();
+}
+
+
+// A browser may refuse; then the window stays as it is.
+function fillScreen() {
+  const done = document.fullscreenElement ? document.exitFullscreen() : document.documentElement.requestFullscreen();
+  done.catch(() => {});
 }
 
 
@@ -186,12 +207,15 @@ onPress('sound', button => {
   speaker.gain.value = 1 - speaker.gain.value;
   toggle(button, speaker.gain.value === 1);
 });
-onPress('full', () => document.fullscreenElement ? document.exitFullscreen() : document.documentElement.requestFullscreen());
+onPress('full', fillScreen);
 document.addEventListener('fullscreenchange', () => toggle(element('full'), Boolean(document.fullscreenElement)));
 element('full').hidden = !document.fullscreenEnabled;
 
 for (const fault of ['error', 'unhandledrejection'])
-  window.addEventListener(fault, () => {
+  window.addEventListener(fault, event => {
+    // Some browsers report as an error, without a cause, what is only a remark.
+    if (!event.error && !event.reason)
+      return;
     say('The game stopped by itself. That is a fault of ours: please tell us what you did.', 'Load again');
     start.onclick = () => location.reload();
     front.hidden = false;

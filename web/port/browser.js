@@ -1,6 +1,7 @@
 // What only the browser can do for the port; browser.h says what each function promises. The page hands over, as fields
-// of Module: gl (the canvas's WebGL context), pictures and sounds (by path), audio (an AudioContext), speaker (the node
-// that all sound goes to) and closed (a function that is called when the game has ended).
+// of Module: gl (the canvas's WebGL context), pictures and sounds (by path), address (where a file of a path is), audio
+// (an AudioContext), speaker (the node that all sound goes to), music (the element that plays it), musicVolume (its node)
+// and closed (a function that is called when the game has ended).
 
 mergeInto(LibraryManager.library, {
   $Screen: {
@@ -207,8 +208,6 @@ mergeInto(LibraryManager.library, {
     paths: [''],
     channels: [],
     volume: 128, // of the music
-    music: null,
-    gain: null,
 
     channel: function (i) {
       if (!Sound.channels[i]) {
@@ -225,43 +224,33 @@ mergeInto(LibraryManager.library, {
       channel.source = null;
     },
 
-    // Nobody listens to a page that can't be seen.
-    heed: function () {
-      if (document.hidden)
-        Module['audio'].suspend();
-      else
-        Module['audio'].resume();
-      if (Sound.music && document.hidden)
-        Sound.music.pause();
-      else if (Sound.music)
-        Sound.play();
-    },
-
-    // Rises from silence to the music's volume within so many seconds.
+    // Lets the music rise from silence to its volume within so many seconds.
     fade: function (seconds) {
       var now = Module['audio'].currentTime;
-      var gain = Sound.gain.gain;
+      var gain = Module['musicVolume'].gain;
       gain.cancelScheduledValues(now);
       gain.setValueAtTime(seconds > 0 ? 0 : Sound.volume / Sound.FULL, now);
       gain.linearRampToValueAtTime(Sound.volume / Sound.FULL, now + seconds);
     },
 
-    endMusic: function () {
-      if (!Sound.music)
-        return;
-      Sound.gain.disconnect();
-      Sound.music.pause();
-      Sound.music.removeAttribute('src');
-      Sound.music = null;
-    },
-
-    // A stream that can't be played leaves the game without music, as a missing file does elsewhere.
+    // A piece that can't be played leaves the game without music, as a missing file does elsewhere. One that is
+    // interrupted, by the next or by a page that is left, is no fault.
     play: function () {
-      var music = Sound.music;
-      music.play().catch(function (error) {
-        if (music === Sound.music)
+      Module['music'].play().catch(function (error) {
+        if (error.name !== 'AbortError')
           console.warn('The music can\'t be played: ' + error.message);
       });
+    },
+
+    // Nobody listens to a page that can't be seen.
+    heed: function () {
+      if (document.hidden) {
+        Module['audio'].suspend();
+        Module['music'].pause();
+      } else {
+        Module['audio'].resume();
+        Sound.play();
+      }
     }
   },
 
@@ -301,13 +290,7 @@ mergeInto(LibraryManager.library, {
 
   webPlayMusic__deps: ['$Sound'],
   webPlayMusic: function (music, fadeIn) {
-    var audio = Module['audio'];
-    Sound.endMusic();
-    Sound.music = new Audio(Module['address'](Sound.paths[music]));
-    Sound.music.loop = true;
-    Sound.gain = audio.createGain();
-    Sound.gain.connect(Module['speaker']);
-    audio.createMediaElementSource(Sound.music).connect(Sound.gain);
+    Module['music'].src = Module['address'](Sound.paths[music]);
     Sound.fade(fadeIn / 1000);
     Sound.play();
   },
@@ -315,13 +298,15 @@ mergeInto(LibraryManager.library, {
   webMusicVolume__deps: ['$Sound'],
   webMusicVolume: function (volume) {
     Sound.volume = volume;
-    if (Sound.music)
-      Sound.fade(0);
+    Sound.fade(0);
   },
 
   webSilence__deps: ['$Sound'],
   webSilence: function () {
-    Sound.channels.forEach(Sound.stop);
-    Sound.endMusic();
+    Sound.channels.forEach(function (channel) {
+      Sound.stop(channel);
+      channel.volume.disconnect();
+    });
+    Module['music'].pause();
   }
 });

@@ -1,0 +1,103 @@
+#!/usr/bin/python3
+"""How fast a busy scene is in the browser, and what the page's own script takes of it: see measure.
+
+    measure.py PAGE SECONDS ROUNDS
+"""
+import json
+import os
+import statistics
+import sys
+
+sys.path[:0] = ["tools", "web"]
+from browser import Browser, Server
+
+# Counts frames, by the call that begins each, and keeps what the last whole one drew.
+COUNT = """
+window.frames_ = 0;
+const of = WebGLRenderingContext.prototype;
+const wrap = (name, before) => {
+  const own = of[name];
+  of[name] = function (...given) { before(this, ...given); return own.apply(this, given); };
+};
+const seen = window.seen = {last: null, corners: null, indices: null, batches: [], sizes: new Map(), bound: null, recording: false};
+wrap('clear', () => {
+  if (seen.recording && seen.batches.length)
+    seen.last = {corners: seen.corners, indices: seen.indices, batches: seen.batches};
+  seen.batches = [];
+  ++window.frames_;
+});
+wrap('bindTexture', (gl, target, texture) => seen.bound = texture);
+wrap('texImage2D', (gl, target, level, format, width, height) => {
+  if (level === 0 && typeof height === 'number')
+    seen.sizes.set(seen.bound, {texture: seen.sizes.size, width, height});
+});
+wrap('bufferData', (gl, target, data) => {
+  if (seen.recording)
+    seen[target === gl.ARRAY_BUFFER ? 'corners' : 'indices'] = Array.from(data);
+});
+wrap('drawElements', (gl, mode, count) => {
+  if (seen.recording)
+    seen.batches.push({...seen.sizes.get(seen.bound), count});
+});
+"""
+
+
+def frames_a_second(browser, seconds):
+    frames, passed = browser.value(f"""new Promise(done => {{
+      const first = frames_, begin = performance.now();
+      setTimeout(() => done([frames_ - first, performance.now() - begin]), {1000 * seconds});
+    }})""")
+    return 1000 * frames / passed, frames
+
+
+def script_per_frame(browser, seconds):
+    """The milliseconds of the page's own script and program in a frame, and which functions take the most."""
+    browser.call("Profiler.enable")
+    browser.call("Profiler.setSamplingInterval", interval=200)
+    browser.call("Profiler.start")
+    frames = frames_a_second(browser, seconds)[1]
+    profile = browser.call("Profiler.stop")["profile"]
+    browser.call("Profiler.disable")
+    name = {node["id"]: node["callFrame"]["functionName"] or "(unnamed)" for node in profile["nodes"]}
+    spent = {}
+    for node, delta in zip(profile["samples"], profile["timeDeltas"]):
+        spent[name[node]] = spent.get(name[node], 0) + delta / 1000
+    own = {function: time for function, time in spent.items() if function not in ("(idle)", "(program)", "(root)")}
+    most = sorted(own.items(), key=lambda item: -item[1])[:6]
+    share = {part: spent.get(part, 0) / sum(spent.values()) for part in ("(idle)", "(program)")}
+    return sum(own.values()) / frames, ", ".join(f"{function} {time / frames:.2f}" for function, time in most), share
+
+
+def main(page, seconds, rounds):
+    print("load of the machine before: %.2f" % os.getloadavg()[0])
+    ratios, scripts = [], []
+    with Server(page) as server:
+        for _ in range(int(rounds)):
+            with Browser() as browser:
+                browser.call("Page.addScriptToEvaluateOnNewDocument", source=COUNT)
+                browser.open(server.address)
+                browser.start()
+                browser.wait_for("frames", lambda: browser.value("frames_ > 100"))
+                game = frames_a_second(browser, float(seconds))[0]
+                script, most, share = script_per_frame(browser, float(seconds))
+                browser.value("seen.recording = true")
+                browser.wait_for("a frame", lambda: browser.value("Boolean(seen.last)"))
+                frame = browser.value("seen.last")
+                browser.call("Page.navigate", url=server.address + "bare.html")
+                browser.wait_for("the bare page", lambda: browser.value("document.readyState === 'complete' && typeof draw === 'function'"))
+                browser.value(f"draw({json.dumps(frame)})")
+                browser.wait_for("frames", lambda: browser.value("frames_ > 100"))
+                bare = frames_a_second(browser, float(seconds))[0]
+            triangles = sum(batch["count"] for batch in frame["batches"]) // 3
+            print(f"{triangles} triangles in {len(frame['batches'])} batches: game {game:.1f}, bare {bare:.1f} frames a second, "
+                  f"ratio {game / bare:.2f}; script {script:.2f} ms a frame ({most}), idle {share['(idle)']:.0%}, "
+                  f"browser's own {share['(program)']:.0%}", flush=True)
+            ratios.append(game / bare)
+            scripts.append(script)
+    print(f"median: ratio {statistics.median(ratios):.2f}, script {statistics.median(scripts):.2f} ms a frame")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 4:
+        sys.exit(__doc__)
+    main(*sys.argv[1:])

@@ -1,0 +1,2 @@
+// The scene that the stage shows in the browser.
+Module['arguments'] = ['busy', '1000000'];
