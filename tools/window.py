@@ -107,6 +107,6 @@ class Window:
             window=windows[0], client_type=screen.intern_atom("WM_PROTOCOLS"), data=(32, wish)))
         screen.flush()
 
-    def ended(self):
-        if status := self.program.wait(60):
+    def ended(self, seconds=60):
+        if status := self.program.wait(seconds):
             sys.exit(f"The program ended with status {status}.")

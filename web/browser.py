@@ -13,7 +13,7 @@ import urllib.request
 import websocket
 
 sys.path.insert(0, "tools")
-from window import HEIGHT, WIDTH, Window, rgb
+from window import HEIGHT, WIDTH, Window
 
 BAR = 56  # the column of buttons beside the canvas
 

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""How fast a busy scene is in the browser, and what the page's own script takes of it: see measure.
+"""How fast a busy scene is in the browser, and what the page's own script takes of it: measure starts it.
 
-    measure.py PAGE SECONDS ROUNDS
+    frames.py PAGE SECONDS ROUNDS
 """
 import json
 import os
@@ -10,6 +10,7 @@ import sys
 
 sys.path[:0] = ["tools", "web"]
 from browser import Browser, Server
+from window import Window
 
 # Counts frames, by the call that begins each, and keeps what the last whole one drew.
 COUNT = """
@@ -70,6 +71,9 @@ def script_per_frame(browser, seconds):
 
 def main(page, seconds, rounds):
     print("load of the machine before: %.2f" % os.getloadavg()[0])
+    print("on the desktop, in a window of its own:", flush=True)
+    with Window("build/release/tools/vorel-stage", arguments=["busy", seconds], SDL_AUDIODRIVER="dummy") as window:
+        window.ended(10 * float(seconds))
     ratios, scripts = [], []
     with Server(page) as server:
         for _ in range(int(rounds)):
