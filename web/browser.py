@@ -19,7 +19,7 @@ BAR = 56  # the column of buttons beside the canvas
 
 # The flags: root has no sandbox, nothing is looked for outside this machine, and pictures are drawn on the processor.
 FLAGS = """--no-sandbox --kiosk --no-first-run --disable-quic --disable-background-networking --disable-component-update
-  --disable-sync --disable-default-apps --use-angle=swiftshader --enable-unsafe-swiftshader --remote-allow-origins=*
+  --disable-sync --disable-default-apps --disable-dev-shm-usage --use-angle=swiftshader --enable-unsafe-swiftshader --remote-allow-origins=*
   --remote-debugging-port=0""".split()
 
 

@@ -6,6 +6,7 @@ const [canvas, front, bar, message, progress, start] =
   ['canvas', 'front', 'bar', 'message', 'progress', 'start'].map(element);
 
 const files = JSON.parse(element('files').textContent); // path: bytes
+const welcome = message.textContent;
 const build = new URL(import.meta.url).search.slice(1);
 const loaded = {};
 const arrived = {}; // path: bytes
@@ -117,6 +118,7 @@ function script(blob) {
 
 async function loadAll() {
   progress.max = Object.values(files).reduce((sum, bytes) => sum + bytes, 0);
+  message.textContent = welcome;
   progress.hidden = false;
   start.disabled = true;
   start.textContent = 'Loading…';
