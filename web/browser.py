@@ -137,9 +137,9 @@ class Browser(Window):
     def start(self):
         self.do("mousemove", *self.place("start"), "click", 1)
 
-    def until(self, what, seen, seconds=20):
+    def until(self, what, seen, seconds=60):
         """A frame that is drawn on the processor takes its time."""
-        return super().until(what, seen, 5 * seconds)
+        return super().until(what, seen, 3 * seconds)
 
     def ended(self):
         self.offered("Play again")
