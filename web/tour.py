@@ -25,8 +25,10 @@ AudioBufferSourceNode.prototype.start = function (...times) {
 };
 const play = HTMLMediaElement.prototype.play;
 HTMLMediaElement.prototype.play = function () {
-  const file = new URL(this.src).pathname.split('/').pop();
-  this.addEventListener('timeupdate', () => heard.music[file] = Math.max(this.currentTime, heard.music[file] || 0));
+  this.ontimeupdate = () => {
+    const file = new URL(this.src).pathname.split('/').pop();
+    heard.music[file] = Math.max(this.currentTime, heard.music[file] || 0);
+  };
   return play.apply(this);
 };
 """
