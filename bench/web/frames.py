@@ -51,6 +51,13 @@ def frames_a_second(browser, seconds):
     return 1000 * frames / passed, frames
 
 
+def processor_time(browser):
+    """The milliseconds that the page's main thread has had of a processor: its script, and the browser's own work there."""
+    browser.call("Performance.enable")
+    metrics = {metric["name"]: metric["value"] for metric in browser.call("Performance.getMetrics")["metrics"]}
+    return 1000 * metrics["ThreadTime"]
+
+
 def script_per_frame(browser, seconds):
     """The milliseconds of the page's own script and program in a frame, and which functions take the most."""
     browser.call("Profiler.enable")
@@ -74,7 +81,7 @@ def main(page, seconds, rounds):
     print("on the desktop, in a window of its own:", flush=True)
     with Window("build/release/tools/vorel-stage", arguments=["busy", seconds], SDL_AUDIODRIVER="dummy") as window:
         window.ended(10 * float(seconds))
-    ratios, scripts = [], []
+    ratios, scripts, threads = [], [], []
     with Server(page) as server:
         for _ in range(int(rounds)):
             with Browser() as browser:
@@ -82,7 +89,9 @@ def main(page, seconds, rounds):
                 browser.open(server.address)
                 browser.start()
                 browser.wait_for("frames", lambda: browser.value("frames_ > 100"))
-                game = frames_a_second(browser, float(seconds))[0]
+                before = processor_time(browser)
+                game, frames = frames_a_second(browser, float(seconds))
+                thread = (processor_time(browser) - before) / frames
                 script, most, share = script_per_frame(browser, float(seconds))
                 browser.value("seen.recording = true")
                 browser.wait_for("a frame", lambda: browser.value("Boolean(seen.last)"))
@@ -94,11 +103,14 @@ def main(page, seconds, rounds):
                 bare = frames_a_second(browser, float(seconds))[0]
             triangles = sum(batch["count"] for batch in frame["batches"]) // 3
             print(f"{triangles} triangles in {len(frame['batches'])} batches: game {game:.1f}, bare {bare:.1f} frames a second, "
-                  f"ratio {game / bare:.2f}; script {script:.2f} ms a frame ({most}), idle {share['(idle)']:.0%}, "
+                  f"ratio {game / bare:.2f}; main thread {thread:.2f} ms of a processor a frame; "
+                  f"script {script:.2f} ms a frame ({most}), idle {share['(idle)']:.0%}, "
                   f"browser's own {share['(program)']:.0%}", flush=True)
             ratios.append(game / bare)
             scripts.append(script)
-    print(f"median: ratio {statistics.median(ratios):.2f}, script {statistics.median(scripts):.2f} ms a frame")
+            threads.append(thread)
+    print(f"median: ratio {statistics.median(ratios):.2f}, script {statistics.median(scripts):.2f} ms a frame, "
+          f"main thread {statistics.median(threads):.2f} ms of a processor a frame")
 
 
 if __name__ == "__main__":
