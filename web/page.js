@@ -168,6 +168,7 @@ function play() {
       WebAssembly.instantiate(loaded['vorel-defense.wasm'], imports).then(ready);
       return {};
     },
+    press() {}, // until its window is open
     closed: () => end('Thank you for playing.')
   };
   VorelDefense(game);
