@@ -1,9 +1,9 @@
 // Sets up scenes that play reaches seldom or late, and shows them in the real window, with real sound:
 //
-//     vorel-stage SCENE [SECONDS [PICTURE.bmp]]      in the folder that holds Assets/
+//     vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]      in the folder that holds Assets/
 //
-// The scene goes on for so many seconds, or until it is closed; its last frame is kept in the picture. At the end the
-// work for one frame is printed. Scenes, N being a number:
+// The scene goes on for so many seconds, or until it is closed; its last frame is kept in the picture. Each number for
+// the ground gives another one, always the same. At the end the work for one frame is printed. Scenes, N being a number:
 //
 //     title       the title screen
 //     busy        ten turrets fire at the twenty grunts that are on the field and at forty more that follow
@@ -176,12 +176,12 @@ int main(int argc, char** argv) {
     SDL_Init(SDL_INIT_VIDEO);
     openAudio();
     SDL_SetVideoMode(WIDTH, HEIGHT, 32, SDL_OPENGL);
-    std::srand(4); // the same ground every time
+    std::srand(argc > 4 ? std::atoi(argv[4]) : 4); // the same ground every time
 
     Game game(WIDTH, HEIGHT);
     Player player;
     if (argc < 2 || !setUp(game, player, argv[1])) {
-        std::fputs("vorel-stage SCENE [SECONDS [PICTURE.bmp]]; see tools/stage.cpp for the scenes\n", stderr);
+        std::fputs("vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]; see tools/stage.cpp for the scenes\n", stderr);
         return 1;
     }
 
