@@ -1,33 +1,42 @@
-"""The ground tiles: soft grass, and wet meadow in round patches with a soft shore.
+"""The ground tiles: short grass, and wet meadow in round patches.
 
-Every tile is cut from the same two endless textures, grass and meadow, mixed by a mask that says
-where the meadow begins. All masks meet a cell's border at its middle, at a right angle, so any
-tile continues its neighbour. Nothing on the one plain tile stands out: it covers the field nearly
-alone, and whatever the eye could hold on to would come back every 32 pixels.
+Every tile is cut from the same two endless textures, grass and meadow, along a line that says where
+the meadow begins. The line meets a cell's border at its middle and at a right angle, and the blades
+that stand there are the same in every tile, so any tile continues its neighbour. A straight shore
+has a nearly straight line: whatever it did would come back every 32 pixels, as a saw. What makes
+it alive are the blades on it. For the same reason nothing on the two plain tiles stands out.
 """
 
 import random
 
 import numpy
-from PIL import Image
+from PIL import Image, ImageFilter
 
 import kit
 import palette as p
 import shapes as s
 
 CELL = 32            # a cell in screen pixels, the unit of everything below
-SCALE = 8            # pixels a unit while drawing
-TILE = 128           # pixels of a finished tile
+SCALE = 16           # pixels a unit while drawing
 AROUND = 8           # units drawn beyond the cell
+SHEET = (512, 1024)  # a power of two, so that OpenGL takes the sheet as it is
 # The game shows the middle of each tile only: it leaves away 0.01 of the sheet on every side.
 CROP_X, CROP_Y = .01 * 3, .01 * 6
-SHORE = .5           # where a shore meets the cell's border, as a share of it
-SHORES = (0, 1, 2, 3, 5, 6, 7, 8, 9, 11, 15, 17)
-SLANT = 1.55          # 2 would make the corners' shores quarter circles, 1 straight lines
+MIDDLE = CELL / 2    # where a shore meets the cell's border
+ROUND = .4           # the corners' bend: 0 would be a slant, .55 a quarter of a circle
+LIGHT = 1.7          # how far the light that comes from the upper left reaches over a bank
 
 
 def colour(text):
     return numpy.array([int(text[i:i + 2], 16) for i in (1, 3, 5)], float)
+
+
+# The meadow's middle is close to the grass, its rim dark like the edge of a wash of colour: where
+# now and then a cell of grass lies straight against the middle, the step between them is slight.
+WET, WET_LIGHT, WET_DARK = (s.mix(c, p.GRASS, share) for c, share in
+                            ((p.MEADOW, .66), (p.MEADOW_LIGHT, .58), (p.MEADOW_DARK, .55)))
+BETWEEN = s.mix(p.GRASS, WET, .5)
+RIM = colour(p.MEADOW) / colour(WET) * .97
 
 
 def endless(draw, seed, count, apart):
@@ -51,17 +60,20 @@ def endless(draw, seed, count, apart):
     return body
 
 
-def blade(rng, colours, length, width, opacity):
-    """One blade of grass, bent by the wind."""
-    h, bend = length * rng.uniform(.7, 1.2), rng.uniform(-.9, .9) * length * .4
-    return s.path(f"M{-width / 2:.2f},0 Q{bend * .2:.2f},{-h * .6:.2f} {bend:.2f},{-h:.2f} "
-                  f"Q{bend * .3 + width * .5:.2f},{-h * .5:.2f} {width / 2:.2f},0 Z",
-                  rng.choice(colours), more=f'opacity="{opacity}"')
+def blade(length, width, bend, fill, opacity=1.0):
+    """One blade of grass that stands on the origin; its tip leans over by `bend`."""
+    return s.path(f"M{-width / 2:.2f},0 Q{bend * .1 - width * .4:.2f},{-length * .6:.2f} {bend:.2f},{-length:.2f} "
+                  f"Q{bend * .3 + width * .5:.2f},{-length * .5:.2f} {width / 2:.2f},0 Z",
+                  fill, more=f'opacity="{opacity}"')
 
 
 def tuft(rng, colours, length, width, opacity, blades=3):
-    return "".join(f'<g transform="rotate({(i - (blades - 1) / 2) * 24 + rng.uniform(-7, 7):.1f})">'
-                   + blade(rng, colours, length, width, opacity) + "</g>" for i in range(blades))
+    drawn = ""
+    for i in range(blades):
+        lean = (i - (blades - 1) / 2) * .42 + rng.uniform(-.14, .14)
+        tall = length * rng.uniform(.7, 1.15)
+        drawn += blade(tall, width, lean * tall, rng.choice(colours), opacity)
+    return drawn
 
 
 def smudge(rng, colours, size, opacity):
@@ -69,116 +81,93 @@ def smudge(rng, colours, size, opacity):
                      rng.choice(colours), more=f'opacity="{opacity}"')
 
 
-def flower(rng, size):
-    petals = "".join(s.circle(x, y, size * .55, p.FLOWER)
-                     for x, y, _ in s.ring(0, 0, 5, size * .62, rng.uniform(0, 72)))
-    return (s.circle(.25, .4, size * 1.15, "#2f4a38", more='opacity="0.5"') + petals
-            + s.circle(0, 0, size * .42, "#d9b95a"))
+def texture(body, contrast):
+    """A cell of an endless texture as an array of floats, without anything that the eye could count.
 
-
-def speck(rng):
-    """A flower too far away to have petals: many faint ones of all sizes hide that they repeat."""
-    colour = rng.choice((p.FLOWER, p.FLOWER, s.mix(p.FLOWER, p.BRASS_LIGHT, .5), GRASS_PALE))
-    return s.circle(0, 0, rng.uniform(.3, .65), colour,
-                    more=f'opacity="{rng.uniform(.2, .6):.2f}"')
-
-
-def texture(body):
-    """A cell of an endless texture as an array of floats."""
+    What is broad would repeat as spots, so it is taken out; what is brighter or darker than the rest
+    would repeat as dots, so it is brought nearer to its surroundings.
+    """
     picture = kit.render(kit.svg(CELL, CELL, body), CELL * SCALE, CELL * SCALE)
-    return numpy.asarray(picture.convert("RGB")).astype(float)
-
-
-def levelled(pixels, keep):
-    """Takes the broad differences of brightness out of a texture: they would repeat as spots."""
+    pixels = numpy.asarray(picture.convert("RGB")).astype(float)
+    fy = numpy.abs(numpy.fft.fftfreq(CELL * SCALE) * CELL * SCALE)[:, None]
+    fx = numpy.abs(numpy.fft.fftfreq(CELL * SCALE) * CELL * SCALE)[None]
+    keep = numpy.clip((numpy.hypot(fx, fy) - 2.5) / 4, .03, 1)
+    keep[0, 0] = 1
     for channel in range(3):
-        waves = numpy.fft.fft2(pixels[..., channel])
-        fy = numpy.abs(numpy.fft.fftfreq(pixels.shape[0]) * pixels.shape[0])[:, None]
-        fx = numpy.abs(numpy.fft.fftfreq(pixels.shape[1]) * pixels.shape[1])[None]
-        broad = (numpy.hypot(fx, fy) < 3.3) & (fx + fy > 0)
-        waves[broad] *= keep
-        pixels[..., channel] = numpy.fft.ifft2(waves).real
-    return pixels
-
-
-# The meadow's middle is close to the grass, its rim dark like the edge of a wash of colour: where
-# now and then a cell of grass lies straight against the middle, the step between them is slight.
-GRASS_PALE = s.mix(p.GRASS_LIGHT, p.FLOWER, .35)
-WET, WET_LIGHT, WET_DARK = (s.mix(c, p.GRASS, share) for c, share in
-                            ((p.MEADOW, .68), (p.MEADOW_LIGHT, .45), (p.MEADOW_DARK, .5)))
+        pixels[..., channel] = numpy.fft.ifft2(numpy.fft.fft2(pixels[..., channel]) * keep).real
+    mean = pixels.mean((0, 1))
+    return mean + contrast * numpy.tanh((pixels - mean) / contrast)
 
 
 def between():
     """Tufts halfway from grass to meadow, the same in both: they break up any straight step."""
-    def clump(rng):
-        return (s.ellipse(0, -1, rng.uniform(1.6, 2.4), rng.uniform(1, 1.5), BETWEEN)
-                + tuft(rng, (BETWEEN,), 3.6, 1.3, 1, 4))
-    return endless(clump, 41, 26, 20)
+    return endless(lambda r: tuft(r, (BETWEEN,), r.choice((3, 4, 6)), 1.5, 1, 5), 41, 40, 9)
 
 
 def grass():
     body = s.rect(0, 0, CELL, CELL, p.GRASS)
-    body += endless(lambda r: smudge(r, (p.GRASS_LIGHT, p.GRASS_DARK), 3, .3), 3, 40, 12)
+    body += endless(lambda r: smudge(r, (p.GRASS_LIGHT, p.GRASS_DARK), r.uniform(1.5, 3.5), .3), 3, 50, 6)
     body += between()
-    body += endless(lambda r: tuft(r, (p.GRASS_DARK,), 3.1, .9, .5), 5, 12, 30)
-    body += endless(lambda r: tuft(r, (p.GRASS_LIGHT,), 3.3, .9, .75), 8, 12, 30)
-    return levelled(texture(body), .1)
-
-
-BETWEEN = s.mix(p.GRASS, WET, .5)
-RIM = colour(p.MEADOW) / colour(WET) * .97
+    body += endless(lambda r: tuft(r, (p.GRASS_DARK, p.GRASS_LIGHT), r.choice((1.8, 2.4, 3.4)), .9, .75,
+                                   r.choice((1, 2, 3))), 5, 70, 6)
+    return texture(body, 10)
 
 
 def meadow():
     body = s.rect(0, 0, CELL, CELL, WET)
-    body += endless(lambda r: smudge(r, (WET_LIGHT, WET_DARK), 3.4, .3), 13, 36, 12)
+    body += endless(lambda r: smudge(r, (WET_LIGHT, WET_DARK), r.uniform(2, 4), .35), 13, 44, 6)
     body += between()
-    body += endless(lambda r: tuft(r, (WET_DARK,), 4.2, 1, .6), 15, 11, 30)
-    body += endless(lambda r: tuft(r, (WET_LIGHT,), 4, .9, .8), 17, 11, 30)
-    pixels = levelled(texture(body), .15)
-    flowers = kit.svg(CELL, CELL, endless(speck, 33, 44, 2))
-    over = numpy.asarray(kit.render(flowers, CELL * SCALE, CELL * SCALE)).astype(float)
-    cover = over[..., 3:] / 255
-    return pixels * (1 - cover) + over[..., :3] * cover
+    body += endless(lambda r: tuft(r, (WET_DARK, WET_LIGHT), r.choice((2.4, 3.6, 5)), .9, .8,
+                                   r.choice((2, 3, 4))), 15, 56, 5)
+    return texture(body, 11)
 
 
-def wave(t, seed):
-    """A gentle line over 0..1 that starts and ends flat at nought and stays within -1..1."""
-    rng = random.Random(seed)
-    parts = [(k, rng.uniform(.5, 1) * rng.choice((-1, 1)) / k, rng.random()) for k in (1, 2)]
-
-    def line(t):
-        t = numpy.clip(t, 0, 1)
-        total = sum(a * numpy.sin(2 * numpy.pi * (k * t + shift)) for k, a, shift in parts)
-        return total * numpy.sin(numpy.pi * t) ** 2
-
-    return line(t) / numpy.abs(line(numpy.linspace(0, 1, 101))).max()
+# Which way the meadow lies from a straight shore, and which corner of its cell a bent one goes
+# around: a corner of meadow, or a hollow, where the corner is all that is left of the grass.
+STRAIGHT = {1: (0, 1), 7: (0, -1), 3: (1, 0), 5: (-1, 0)}
+CORNER = {0: (1, 1), 2: (0, 1), 6: (1, 0), 8: (0, 0)}
+HOLLOW = {9: (1, 1), 11: (0, 1), 15: (1, 0), 17: (0, 0)}
+BENT = {**CORNER, **HOLLOW}
+REEDS = (2, 6, 9, 17)   # the bent shores where reeds grow, and on the others flowers
+SHORES = sorted({**STRAIGHT, **BENT})
 
 
-def depth(tile, x, y):
-    """How far inside the meadow a point of the tile lies, in units; below nought is grass.
+def shoreline(tile):
+    """Points of the line, the meadow on their right hand as one walks along; beyond the cell it runs straight on."""
+    t = numpy.linspace(0, 1, 65)[:, None]
+    if tile in STRAIGHT:
+        rng = random.Random(100 + tile)
+        inward = numpy.array(STRAIGHT[tile], float)
+        along = numpy.array((inward[1], -inward[0]))
+        # a bend of less than a pixel, level where the neighbours take over
+        wave = numpy.sin(2 * numpy.pi * (t + rng.random())) * numpy.sin(numpy.pi * t) ** 2
+        points = MIDDLE + along * (t - .5) * CELL + inward * wave * .8
+    else:
+        cx, cy = (CELL * c for c in BENT[tile])
+        a, d = numpy.array((cx, MIDDLE)), numpy.array((MIDDLE, cy))
+        b, c = a + ((MIDDLE - cx) * ROUND, 0), d + (0, (MIDDLE - cy) * ROUND)
+        points = a * (1 - t) ** 3 + 3 * b * t * (1 - t) ** 2 + 3 * c * t * t * (1 - t) + d * t ** 3
+        leftward = (cx > 0) != (cy > 0)
+        if leftward == (tile in HOLLOW):
+            points = points[::-1]
+    first, last = points[0] - points[1], points[-1] - points[-2]
+    reach = 2 * CELL
+    return numpy.vstack([points[0] + first / numpy.hypot(*first) * reach, points,
+                         points[-1] + last / numpy.hypot(*last) * reach])
 
-    x and y run over the cell from its upper left corner and reach beyond it.
-    """
-    seed = 100 + tile
-    straight = {1: (x, CELL - y), 7: (x, y), 3: (y, CELL - x), 5: (y, x)}
-    corner = {0: (CELL, CELL), 2: (0, CELL), 6: (CELL, 0), 8: (0, 0)}
-    hollow = {9: (CELL, CELL), 11: (0, CELL), 15: (CELL, 0), 17: (0, 0)}
-    if tile in straight:
-        along, inward = straight[tile]
-        return CELL * SHORE + 2.8 * wave(along / CELL, seed) - inward
-    if tile in corner or tile in hollow:
-        cx, cy = (corner if tile in corner else hollow)[tile]
-        dx, dy = abs(x - cx), abs(y - cy)
-        # beyond the cell's border the shore runs straight on
-        dx, dy = (numpy.where((x - cx) * (CELL / 2 - cx) < 0, 0, dx),
-                  numpy.where((y - cy) * (CELL / 2 - cy) < 0, 0, dy))
-        turn = numpy.arctan2(dy, dx) / (numpy.pi / 2)
-        # rather a slant than a quarter circle, so that stairs of cells look less like stairs
-        away = (dx ** SLANT + dy ** SLANT) ** (1 / SLANT)
-        edge = CELL * SHORE + 1.6 * wave(turn, seed) - away
-        return edge if tile in corner else -edge
-    return numpy.full(x.shape, 99.0 if tile == 4 else -99.0)
+
+def depth(line, x, y):
+    """How far inside the meadow points lie, in units; below nought is grass."""
+    nearest, inside = numpy.full(x.shape, 1e9), numpy.zeros(x.shape)
+    for (ax, ay), (bx, by) in zip(line, line[1:]):
+        ux, uy = bx - ax, by - ay
+        t = numpy.clip(((x - ax) * ux + (y - ay) * uy) / (ux * ux + uy * uy), 0, 1)
+        away = numpy.hypot(x - ax - t * ux, y - ay - t * uy)
+        side = (x - ax) * -uy + (y - ay) * ux
+        closer = away < nearest
+        inside = numpy.where(closer, side, inside)
+        nearest = numpy.where(closer, away, nearest)
+    return numpy.where(inside > 0, nearest, -nearest)
 
 
 def smooth(low, high, value):
@@ -186,66 +175,154 @@ def smooth(low, high, value):
     return (t * t * (3 - 2 * t))[..., None]
 
 
-def shore_growth(tile, rng):
-    """What grows along a shore: tufts that hang over it, reeds in the damp, clumps of flowers."""
-    # straight shores stand next to their like, where flowers would look sown in a row
-    things, spots, clumps = [], [], 3 if tile in (1, 3, 5, 7) else 0
-    for _ in range(3000):
-        x, y = rng.uniform(2.5, CELL - 2.5), rng.uniform(5, CELL - 2.5)
-        d = float(depth(tile, numpy.array([[x]]), numpy.array([[y]]))[0, 0])
-        if not -2 < d < 8 or any(numpy.hypot(x - a, y - b) < 3.6 for a, b in spots):
-            continue
-        spots.append((x, y))
-        if d < 1.6:
-            colours = (p.GRASS_LIGHT,) if rng.random() < .5 else (p.GRASS_DARK,)
-            things.append((y, x, tuft(rng, colours, 3.6, 1.1, .9)))
-        elif d < 4 and rng.random() < .5:
-            things.append((y, x, tuft(rng, (p.MEADOW_DARK,), 4.6, 1.1, .8)))
-        elif clumps < 3 and rng.random() < .5:
-            clumps += 1
-            clump = ((0, 0, 1.25), (2.1, .9, .95), (-.9, 1.9, .8))[:rng.choice((1, 2, 3))]
-            for dx, dy, size in clump:
-                if 2 < x + dx < CELL - 2 and y + dy < CELL - 2:
-                    things.append((y + dy, x + dx, flower(rng, size)))
-    return "".join(f'<g transform="translate({x:.2f} {y:.2f})">{thing}</g>'
-                   for y, x, thing in sorted(things))
+DAMP = s.mix(p.GRASS_DARK, p.MEADOW_DARK, .35)
+
+
+def growth(rng, places):
+    """Blades of several sizes on a shore: (x, y, inward) are its points and where the meadow lies.
+
+    They all grow upwards, so on an upper shore the meadow's stand before the bank, and on a lower
+    one the bank's before the meadow.
+    """
+    things = []
+    for x, y, (nx, ny) in places:
+        def stand(offset, length, width, fill, opacity=1.0):
+            bend = (rng.uniform(-.4, .4) + nx * rng.choice((-.6, .6))) * length
+            along = rng.uniform(-.5, .5)
+            px, py = x + nx * offset - ny * along, y + ny * offset + nx * along
+            things.append((py, f'<g transform="translate({px:.2f} {py:.2f})">'
+                           + blade(length, width, bend, fill, opacity) + "</g>"))
+
+        size = rng.choice((.5, .7, .7, 1, 1, 1.5))
+        if rng.random() < .75:
+            stand(rng.uniform(.6, 2.4) + max(ny, 0) * 1.2, 3.6 * size, .95,
+                  rng.choice((p.MEADOW_DARK, DAMP, WET_DARK)), .9)
+        if rng.random() < .8:
+            stand(rng.uniform(-1.4, -.1), 3 * size, .95,
+                  rng.choice((p.GRASS, p.GRASS_LIGHT, p.GRASS_LIGHT) if nx + ny < 0 else
+                             (p.GRASS, p.GRASS, p.GRASS_LIGHT, p.GRASS_DARK)), .95)
+        if rng.random() < .35:
+            stand(rng.uniform(2, 5), 3.4 * size, .9, rng.choice((p.MEADOW, WET_DARK)), .7)
+        if rng.random() < .35:
+            stand(rng.uniform(-4.5, -1.5), 2.6 * size, .9, p.GRASS_DARK, .6)
+    return things
+
+
+def clumps(rng, tile):
+    """What grows in the bays: reeds or flowers. Straight shores stand next to their like and have none."""
+    things = []
+    if tile in BENT:
+        line = shoreline(tile)
+        spots = []
+        for _ in range(60):
+            x, y = rng.uniform(4, CELL - 4), rng.uniform(8, CELL - 4)
+            d = float(depth(line, numpy.array(x), numpy.array(y)))
+            if 2.2 < d < 7 and all(numpy.hypot(x - a, y - b) > 1.9 for a, b in spots):
+                spots.append((x, y))
+        for x, y in spots:
+            thing = reeds(rng) if tile in REEDS else flower(rng)
+            things.append((y, f'<g transform="translate({x:.2f} {y:.2f})">{thing}</g>'))
+    return things
+
+
+def reeds(rng):
+    return tuft(rng, (p.MEADOW_DARK, DAMP, WET_DARK), rng.uniform(3.5, 6.5), 1, .85, 2)
+
+
+def flower(rng):
+    """A few pale petals on the meadow: none so bright that the eye counts them."""
+    size, fill = rng.uniform(.6, 1.05), s.mix(p.FLOWER, WET, rng.uniform(.3, .6))
+    return (s.circle(.3, .5, size * 1.2, p.MEADOW_DARK, more='opacity="0.35"') + s.circle(0, 0, size, fill))
+
+
+STEP = 1.15          # units from one place where something grows to the next
+ACROSS = 2.5         # units from a border within which the blades belong to the border
+UPWARDS = 6.0        # the same below a border that blades reach across
+
+
+def borders(tile):
+    """The points of a cell's border through which its shore goes, and where the meadow lies there."""
+    found = []
+    line = shoreline(tile)
+    for at, before, after in ((line[1], line[0], line[1]), (line[-2], line[-2], line[-1])):
+        ux, uy = (after - before) / numpy.hypot(*(after - before))
+        found.append((at[0], at[1], (round(-uy), round(ux))))
+    return found
+
+
+def shore_growth(tile):
+    things = []
+    for x, y, inward in borders(tile):
+        rng = random.Random(f"{inward}")
+        along = (inward[1], -inward[0])
+        low, high = (-ACROSS, ACROSS) if inward[1] else (-ACROSS, UPWARDS)
+        # the step downwards or to the right, whichever way the line is walked
+        ahead = (abs(along[0]), abs(along[1]))
+        places = []
+        step = low
+        while step < high:
+            places.append((x + ahead[0] * step, y + ahead[1] * step, inward))
+            step += STEP * rng.uniform(.7, 1.3)
+        things += growth(rng, places)
+    rng = random.Random(200 + tile)
+    line = shoreline(tile)[1:-1]
+    places, walked, due = [], 0.0, 0.0
+    for (ax, ay), (bx, by) in zip(line, line[1:]):
+        walked += numpy.hypot(bx - ax, by - ay)
+        if walked >= due:
+            due += STEP * rng.uniform(.7, 1.3)
+            long = numpy.hypot(bx - ax, by - ay)
+            inward = (-(by - ay) / long, (bx - ax) / long)
+            if ACROSS < ax < CELL - ACROSS and UPWARDS < ay < CELL - ACROSS:
+                places.append((ax, ay, inward))
+    things += growth(rng, places) + clumps(rng, tile)
+    return "".join(thing for _, thing in sorted(things))
 
 
 def draw_tile(tile, grass_cell, meadow_cell):
+    """A tile with what lies around it, and so much of that as the game cuts off."""
     pad = AROUND * SCALE
     size = (CELL + 2 * AROUND) * SCALE
-    axis = (numpy.arange(size) + .5) / SCALE - AROUND
-    x, y = numpy.meshgrid(axis, axis)
     around = ((pad, pad), (pad, pad), (0, 0))
-    ground = numpy.pad(grass_cell, around, "wrap")
-    wet = numpy.pad(meadow_cell, around, "wrap")
-    d = depth(tile, x, y)
-    # damp grass first, then the meadow itself
-    mixed = ground + (wet - ground) * (.4 * smooth(-7, 1, d) + .6 * smooth(-1.6, 1.6, d))
+    ground, wet = numpy.pad(grass_cell, around, "wrap"), numpy.pad(meadow_cell, around, "wrap")
+    mixed = wet if tile == 4 else ground
     if tile in SHORES:
-        rim = smooth(-1, 1.5, d) * (1 - smooth(1, 13.5, d))
+        axis = (numpy.arange(0, size, 4) + 2) / SCALE - AROUND
+        x, y = numpy.meshgrid(axis, axis)
+        line = shoreline(tile)
+
+        def fine(values):
+            picture = Image.fromarray(values.astype(numpy.float32), "F")
+            return numpy.asarray(picture.resize((size, size), Image.BILINEAR)).astype(float)
+
+        d, nearer = fine(depth(line, x, y)), fine(depth(line, x - LIGHT, y - LIGHT))
+        # damp grass first, then the meadow itself
+        mixed = ground + (wet - ground) * (.3 * smooth(-6, 0, d) + .7 * smooth(-.7, .7, d))
+        rim = smooth(-.5, 1, d) * (1 - smooth(-1, 15.5, d))
         mixed = mixed + (mixed * RIM - mixed) * rim
         # The meadow lies a little lower than the grass: light from the upper left leaves a shadow
         # under the bank there and catches the grass's lip on the other side.
-        nearer = depth(tile, x - 2.2, y - 2.2)
-        shadow = smooth(-.6, 1.2, d) * (1 - smooth(-1.5, 2.2, nearer))
-        mixed = mixed + (colour(p.MEADOW_DARK) * .86 - mixed) * shadow * .6
-        lit = (1 - smooth(-1.6, .4, d)) * smooth(-1.2, 1.6, nearer)
-        mixed = mixed + (colour(p.GRASS_LIGHT) * 1.06 - mixed) * lit * .75
+        shadow = smooth(-.4, .8, d) * (1 - smooth(-1.6, 1.8, nearer))
+        mixed = mixed + (colour(p.MEADOW_DARK) * .9 - mixed) * shadow * .62
+        lit = (1 - smooth(-.9, .3, d)) * smooth(-1, 1.4, nearer)
+        mixed = mixed + (colour(p.GRASS_LIGHT) * 1.04 - mixed) * lit * .5
     picture = Image.fromarray(numpy.clip(mixed, 0, 255).round().astype(numpy.uint8), "RGB")
     if tile in SHORES:
-        body = shore_growth(tile, random.Random(200 + tile))
         wide = CELL + 2 * AROUND
-        body = f'<g transform="translate({AROUND} {AROUND})">{body}</g>'
+        body = f'<g transform="translate({AROUND} {AROUND})">{shore_growth(tile)}</g>'
         over = kit.render(kit.svg(wide, wide, body), size, size)
         picture.paste(over, (0, 0), over)
     left = pad - CELL * SCALE * CROP_X / (1 - 2 * CROP_X)
     top = pad - CELL * SCALE * CROP_Y / (1 - 2 * CROP_Y)
-    return picture.resize((TILE, TILE), Image.LANCZOS, (left, top, size - left, size - top))
+    return picture.resize((SHEET[0], SHEET[0]), Image.LANCZOS, (left, top, size - left, size - top))
 
 
 grass_cell, meadow_cell = grass(), meadow()
-sheet = Image.new("RGB", (3 * TILE, 6 * TILE))
+sheet = Image.new("RGB", (3 * SHEET[0], 6 * SHEET[0]))
 for tile in range(18):
-    sheet.paste(draw_tile(tile, grass_cell, meadow_cell), (tile % 3 * TILE, tile // 3 * TILE))
+    sheet.paste(draw_tile(tile, grass_cell, meadow_cell), (tile % 3 * SHEET[0], tile // 3 * SHEET[0]))
+sheet = sheet.resize(SHEET, Image.BOX)
+# The game shows a fifth of this size, through textures of a quarter and of an eighth of it: the
+# smaller one blurs, and a little more of what it takes away puts that right.
+sheet = sheet.filter(ImageFilter.UnsharpMask(5, 70, 0))
 kit.save("tileSet_v2_32x32.png", sheet.convert("RGBA"))
