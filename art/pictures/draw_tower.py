@@ -13,7 +13,7 @@ FLOOR = SIZE - 62          # y of the tank's floor, counted from the top
 LEFT, RIGHT = 31, 97       # the tank's walls
 WINDOW = (39.5, 27, 88.5)  # left, top, right; its sill is the floor
 
-DEFS = s.MATERIALS + (
+DEFS = s.MATERIALS + s.SHADOW_BLUR + (
     s.gradient("roof", [(0, p.COPPER_DARK), (.3, p.COPPER_LIGHT), (.5, p.COPPER), (1, p.COPPER_DARK)],
                x2=1, y2=0)
     + s.gradient("wall", [(0, p.CREAM_SHADE), (.22, s.mix(p.CREAM, "#ffffff", .55)), (.5, p.CREAM),
@@ -38,7 +38,9 @@ def leg(x0, x1, y0, y1, w):
 
 
 def back():
-    body = s.ellipse(68, 116.5, 44, 7.5, p.OUTLINE, more='opacity="0.30"')
+    body = s.shadow(62, 116, 35, 4.6, 16, .26)
+    for x in (32, 64, 96):
+        body += s.shadow(x, 120.4, 6.5 if x != 64 else 9.5, 1.6, 4)
     # the legs at the back stand closer together and higher
     body += leg(50, 47, FLOOR, 109, 1.6) + leg(78, 81, FLOOR, 109, 1.6)
     body += s.path("M48.5,103 L79.5,80 M79.5,103 L48.5,80", stroke=p.OUTLINE, width=1.6)

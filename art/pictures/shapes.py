@@ -88,6 +88,22 @@ def rivet(x, y, r=3.0, metal="brass"):
             + circle(x - r * 0.32, y - r * 0.36, r * 0.24, "#ffffff", 'opacity="0.9"'))
 
 
+# A shadow's edge is as soft under the small things as under the large ones, in screen pixels.
+SHADOW_BLUR = ('<filter id="shadow-blur" x="-0.5" y="-0.5" width="2" height="2">'
+               '<feGaussianBlur stdDeviation="1.3"/></filter>')
+
+
+def shadow(x, y, rx, ry, reach, dark=0.34):
+    """What a thing lays on the ground: thrown to the lower right by `reach`, darkest where it touches.
+
+    (x, y), rx and ry are the ground that it stands on; a picture that uses it needs SHADOW_BLUR.
+    """
+    thrown = "".join(ellipse(x + reach * t, y + reach * t * .45, rx, ry, p.OUTLINE) for t in (0, .5, 1))
+    return (f'<g filter="url(#shadow-blur)" opacity="{dark}">{thrown}</g>'
+            f'<g filter="url(#shadow-blur)" opacity="{dark}">' + ellipse(x + .5, y + .3, rx * .92, ry * .8, p.OUTLINE)
+            + "</g>")
+
+
 def bubble(x, y, r, width=1.0, opacity=1.0):
     """A clean soap-clear bubble: thin rim, tinted inside, a glint to the upper left."""
     return (f'<g opacity="{opacity:.2f}">'
