@@ -91,7 +91,7 @@ def texture(body, contrast):
     pixels = numpy.asarray(picture.convert("RGB")).astype(float)
     fy = numpy.abs(numpy.fft.fftfreq(CELL * SCALE) * CELL * SCALE)[:, None]
     fx = numpy.abs(numpy.fft.fftfreq(CELL * SCALE) * CELL * SCALE)[None]
-    keep = numpy.clip((numpy.hypot(fx, fy) - 2.5) / 4, .03, 1)
+    keep = numpy.clip((numpy.hypot(fx, fy) - 3) / 4, .03, 1)
     keep[0, 0] = 1
     for channel in range(3):
         pixels[..., channel] = numpy.fft.ifft2(numpy.fft.fft2(pixels[..., channel]) * keep).real

@@ -14,7 +14,7 @@ def nozzle():
 
 def turret():
     """The turret on 64 x 64: a riveted enamel plate, eight nozzles, a glass dome full of water."""
-    body = s.shadow(32.4, 33.8, 24.6, 24.2, 3.4)
+    body = s.shadow(32.6, 33.8, 24.6, 24, 4.4)
     for x, y, angle in s.ring(32, 32, 8, 22.2, 22.5):
         body += f'<g transform="translate({x:.2f} {y:.2f}) rotate({angle:.1f})">{nozzle()}</g>'
     # plate: bottle green below, a brass hoop, cream enamel on top

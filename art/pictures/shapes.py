@@ -90,7 +90,7 @@ def rivet(x, y, r=3.0, metal="brass"):
 
 # A shadow's edge is as soft under the small things as under the large ones, in screen pixels.
 SHADOW_BLUR = ('<filter id="shadow-blur" x="-0.5" y="-0.5" width="2" height="2">'
-               '<feGaussianBlur stdDeviation="1.3"/></filter>')
+               '<feGaussianBlur stdDeviation="1.1"/></filter>')
 
 
 def shadow(x, y, rx, ry, reach, dark=0.34):
@@ -98,7 +98,7 @@ def shadow(x, y, rx, ry, reach, dark=0.34):
 
     (x, y), rx and ry are the ground that it stands on; a picture that uses it needs SHADOW_BLUR.
     """
-    thrown = "".join(ellipse(x + reach * t, y + reach * t * .45, rx, ry, p.OUTLINE) for t in (0, .5, 1))
+    thrown = "".join(ellipse(x + reach * t, y + reach * t * .35, rx, ry, p.OUTLINE) for t in (0, .5, 1))
     return (f'<g filter="url(#shadow-blur)" opacity="{dark}">{thrown}</g>'
             f'<g filter="url(#shadow-blur)" opacity="{dark}">' + ellipse(x + .5, y + .3, rx * .92, ry * .8, p.OUTLINE)
             + "</g>")
