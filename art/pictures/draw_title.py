@@ -7,8 +7,8 @@ import cast
 import enamel
 import kit
 from palette import (
-    BOTTLE_GREEN, BRASS, COPPER, CREAM, CREAM_SHADE, FLOWER, GRASS, GRASS_DARK, GRASS_LIGHT, MEADOW,
-    MEADOW_DARK, MEADOW_LIGHT, OUTLINE, STEEL, WATER, WATER_FOAM, WATER_LIGHT,
+    BOTTLE_GREEN, BRASS, BRASS_DARK, COPPER, COPPER_DARK, CREAM, CREAM_SHADE, FLOWER, GRASS, GRASS_DARK,
+    GRASS_LIGHT, MEADOW, MEADOW_DARK, MEADOW_LIGHT, OUTLINE, STEEL, STEEL_LIGHT, WATER, WATER_FOAM, WATER_LIGHT,
 )
 from shapes import blob
 
@@ -19,11 +19,25 @@ HORIZON = 330
 def sky():
     parts = [enamel.box(0, 0, WIDTH, HORIZON + 60, 0, "url(#sky)"),
              enamel.circle(90, 40, 420, "url(#sun)")]
-    for x, y, k in ((700, 90, 1.1), (930, 60, 0.8), (560, 250, 0.7), (60, 270, 0.8)):
+    # thin ones far up, banks that lie flat, and heaps
+    for x, y, k in ((760, 26, 1.0), (1010, 150, 0.7), (642, 262, 0.62)):
+        parts.append(f'<g transform="translate({x} {y}) scale({k})" fill="#fffaf0" opacity="0.6">'
+                     '<path d="M-120 8 Q-96 -6 -52 -3 Q-14 -16 30 -8 Q78 -14 126 2 Q92 4 76 9 Q96 12 104 17 Q40 22 2 16 '
+                     'Q-40 22 -76 14 Q-96 14 -120 8Z"/></g>')
+    for x, y, k in ((712, 132, 0.8), (930, 60, 0.8), (60, 270, 0.8)):
         parts.append(f'<g transform="translate({x} {y}) scale({k})" fill="#fffaf0" opacity="0.75">'
                      '<path d="M-90 20 Q-96 0 -70 -4 Q-64 -30 -34 -24 Q-16 -46 12 -30 Q40 -40 48 -14 Q80 -18 '
                      '86 8 Q92 20 78 20Z"/></g>')
     return "".join(parts)
+
+
+def bird(x, y, k, lean):
+    """A gull far away: two wings and hardly a body."""
+    return enamel.path(f"M{x - 13 * k:.1f} {y - 3 * k:.1f} Q{x - 6 * k:.1f} {y - 9 * k:.1f} {x:.1f} {y:.1f} "
+                       f"Q{x + 5 * k:.1f} {y - 10 * k + lean:.1f} {x + 14 * k:.1f} {y - 5 * k + lean:.1f} "
+                       f"Q{x + 6 * k:.1f} {y - 5 * k + lean:.1f} {x + 1 * k:.1f} {y + 3 * k:.1f} "
+                       f"Q{x - 6 * k:.1f} {y - 4 * k:.1f} {x - 13 * k:.1f} {y - 3 * k:.1f}Z",
+                       enamel.mix(OUTLINE, CREAM, 0.3))
 
 
 def trees(x, y, k, tone):
@@ -48,6 +62,10 @@ def trees(x, y, k, tone):
 def hills():
     parts = [enamel.path("M0 322 Q120 262 260 300 Q380 250 520 298 Q660 256 800 300 Q920 268 1024 306 V400 "
                          "H0Z", "url(#far)")]
+    # the sun lies on what faces the upper left
+    for d in ("M186 292 Q260 266 322 306 Q250 292 186 292Z", "M424 282 Q520 244 566 316 Q500 282 424 282Z",
+              "M700 280 Q790 262 836 312 Q780 288 700 280Z", "M0 306 Q60 276 132 274 Q70 296 0 318Z"):
+        parts.append(enamel.path(d, "#fff6d8", 'opacity="0.4" filter="url(#haze)"'))
     # other towers of the company, far away
     for x, y, k in ((84, 314, 0.26), (598, 314, 0.28), (656, 306, 0.19)):
         colour = enamel.mix(BOTTLE_GREEN, CREAM, 0.45)
@@ -58,6 +76,9 @@ def hills():
     parts.append(trees(548, 316, 0.62, 0.42))
     parts.append(trees(20, 318, 0.6, 0.42))
     parts.append(enamel.path("M0 344 Q160 302 340 330 Q520 300 700 334 Q860 304 1024 336 V420 H0Z", "url(#near)"))
+    for d in ("M60 330 Q160 306 262 322 Q160 318 60 336Z", "M380 328 Q520 298 640 326 Q520 312 380 334Z",
+              "M760 324 Q860 306 960 326 Q860 316 760 330Z"):
+        parts.append(enamel.path(d, "#fff6d8", 'opacity="0.45" filter="url(#haze)"'))
     parts.append(trees(690, 342, 0.85, 0.24))
     parts.append(trees(134, 330, 0.66, 0.26))
     parts.append(trees(1000, 344, 0.9, 0.24))
@@ -176,6 +197,47 @@ def clump(x, y, s, rng):
     return "".join(parts)
 
 
+def reeds(x, y, s, rng):
+    """Cat's-tails in the wet meadow."""
+    parts = []
+    for i in range(7):
+        foot, tall = x + (i - 3) * 4.2 * s + rng.uniform(-1, 1) * s, s * rng.uniform(26, 44)
+        lean = (i - 3) * 1.6 * s + rng.uniform(-2, 3) * s
+        if i % 2:
+            tip = foot + lean * 0.7
+            parts.append(enamel.path(f"M{foot:.1f} {y} Q{foot:.1f} {y - tall * 0.6:.1f} {tip:.1f} {y - tall:.1f}", "none",
+                                     f'stroke="{MEADOW_DARK}" stroke-width="{1.5 * s:.1f}"'))
+            for wide, colour in ((6.4, OUTLINE), (4.2, COPPER_DARK)):
+                parts.append(enamel.path(f"M{tip:.1f} {y - tall:.1f} l{-lean * 0.05:.1f} {11 * s:.1f}", "none",
+                                         f'stroke="{colour}" stroke-width="{wide * s:.1f}" stroke-linecap="round"'))
+        else:
+            colour = rng.choice((MEADOW, MEADOW_DARK, MEADOW_LIGHT))
+            parts.append(enamel.path(f"M{foot - 2 * s:.1f} {y} Q{foot - s:.1f} {y - tall * 0.5:.1f} {foot + lean * 1.5:.1f} "
+                                     f"{y - tall * 0.9:.1f} Q{foot + 1.6 * s:.1f} {y - tall * 0.4:.1f} {foot + 2 * s:.1f} "
+                                     f"{y}Z", colour,
+                                     f'stroke="{enamel.mix(MEADOW_DARK, OUTLINE, 0.4)}" stroke-width="0.8"'))
+    return "".join(parts)
+
+
+def heron(x, y, k):
+    """It stands on one leg and looks at the war with disapproval; (x, y) is its foot."""
+    line = f'stroke="{OUTLINE}" stroke-width="1.8" stroke-linejoin="round" stroke-linecap="round"'
+    grey, dark = enamel.mix(STEEL_LIGHT, CREAM, 0.25), enamel.mix(STEEL, OUTLINE, 0.35)
+    neck = "M-9 -40 C-20 -46 -4 -56 -12 -66"
+    return (f'<ellipse cx="{x + 6 * k}" cy="{y + 1}" rx="{17 * k}" ry="{3 * k}" fill="{OUTLINE}" opacity="0.25"/>'
+            f'<g transform="translate({x} {y}) scale({k})">'
+            + enamel.path("M2 0 L1 -24 M-5 0 H7 M5 -26 L12 -15 L5 -11", "none",
+                          f'stroke="{BRASS_DARK}" stroke-width="2.2" stroke-linejoin="round" stroke-linecap="round"')
+            + enamel.path(neck, "none", f'stroke="{OUTLINE}" stroke-width="8.4" stroke-linecap="round"')
+            + enamel.path("M-14 -40 Q-8 -50 8 -43 Q22 -36 29 -24 Q14 -21 2 -23 Q-12 -26 -14 -40Z", grey, line)
+            + enamel.path("M-4 -40 Q10 -42 29 -24 Q12 -25 -4 -40Z", dark)
+            + enamel.path(neck, "none", f'stroke="{grey}" stroke-width="5" stroke-linecap="round"')
+            + enamel.path("M-17 -69 L-34 -64 L-16 -63Z", BRASS, line)
+            + enamel.circle(-13, -67, 5.2, grey, line)
+            + enamel.path("M-14 -70 Q-6 -73 3 -68", "none", f'stroke="{OUTLINE}" stroke-width="2.4" stroke-linecap="round"')
+            + enamel.circle(-14.6, -67.6, 1.2, OUTLINE) + "</g>")
+
+
 def stone(x, y, s):
     return (f'<ellipse cx="{x + 3 * s}" cy="{y}" rx="{17 * s}" ry="{4 * s}" fill="{OUTLINE}" opacity="0.22"/>'
             + enamel.path(f"M{x - 15 * s} {y} Q{x - 17 * s} {y - 11 * s} {x - 5 * s} {y - 13 * s} Q{x + 9 * s} "
@@ -258,6 +320,10 @@ def main():
         parts.append(stream(394, 382, 177, 373, 12, 6.5, line))
         parts.append(splash(171, 373, 0.4, line))
     parts.append(cast.turret(428, 390, 64, 1.6))
+    parts += [bird(1004, 196, 0.8, -2), bird(980, 214, 0.6, 1), bird(690, 34, 0.9, 0)]
+    for x, y, size in ((556, 420, 0.72), (672, 424, 0.9)):
+        parts.append(reeds(x, y, size, rng))
+    parts.append(heron(606, 426, 0.78))
     # the pipe from the tower to the turret
     parts.append(f'<ellipse cx="690" cy="500" rx="110" ry="7" fill="{OUTLINE}" opacity="0.25"/>')
     parts.append(enamel.pipe(596, 480, 190, 15))
