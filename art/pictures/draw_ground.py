@@ -34,8 +34,7 @@ def colour(text):
 # The meadow's middle is close to the grass, its rim dark like the edge of a wash of colour: where
 # now and then a cell of grass lies straight against the middle, the step between them is slight.
 WET, WET_LIGHT, WET_DARK = (s.mix(c, p.GRASS, share) for c, share in
-                            ((p.MEADOW, .66), (p.MEADOW_LIGHT, .58), (p.MEADOW_DARK, .55)))
-BETWEEN = s.mix(p.GRASS, WET, .5)
+                            ((p.MEADOW, .57), (p.MEADOW_LIGHT, .52), (p.MEADOW_DARK, .48)))
 RIM = colour(p.MEADOW) / colour(WET) * .97
 
 
@@ -81,45 +80,58 @@ def smudge(rng, colours, size, opacity):
                      rng.choice(colours), more=f'opacity="{opacity}"')
 
 
-def texture(body, contrast):
-    """A cell of an endless texture as an array of floats, without anything that the eye could count.
+def fine(values, low, high):
+    """A cell of an endless texture without its broad differences, which would repeat as spots.
 
-    What is broad would repeat as spots, so it is taken out; what is brighter or darker than the rest
-    would repeat as dots, so it is brought nearer to its surroundings.
+    What repeats less than `low` times in the cell is left out, what does so `high` times is kept.
     """
-    picture = kit.render(kit.svg(CELL, CELL, body), CELL * SCALE, CELL * SCALE)
-    pixels = numpy.asarray(picture.convert("RGB")).astype(float)
     fy = numpy.abs(numpy.fft.fftfreq(CELL * SCALE) * CELL * SCALE)[:, None]
     fx = numpy.abs(numpy.fft.fftfreq(CELL * SCALE) * CELL * SCALE)[None]
-    keep = numpy.clip((numpy.hypot(fx, fy) - 3) / 4, .03, 1)
+    keep = numpy.clip((numpy.hypot(fx, fy) - low) / (high - low), .03, 1)
     keep[0, 0] = 1
-    for channel in range(3):
-        pixels[..., channel] = numpy.fft.ifft2(numpy.fft.fft2(pixels[..., channel]) * keep).real
+    return numpy.fft.ifft2(numpy.fft.fft2(values) * keep).real
+
+
+def rendered(body):
+    picture = kit.render(kit.svg(CELL, CELL, body), CELL * SCALE, CELL * SCALE)
+    return numpy.asarray(picture.convert("RGB")).astype(float)
+
+
+def texture(body, contrast):
+    """A cell of an endless texture; what is brighter or darker than the rest would repeat as dots, so it is held back."""
+    pixels = rendered(body)
+    pixels = numpy.stack([fine(pixels[..., channel], 3, 7) for channel in range(3)], -1)
     mean = pixels.mean((0, 1))
     return mean + contrast * numpy.tanh((pixels - mean) / contrast)
-
-
-def between():
-    """Tufts halfway from grass to meadow, the same in both: they break up any straight step."""
-    return endless(lambda r: tuft(r, (BETWEEN,), r.choice((3, 4, 6)), 1.5, 1, 5), 41, 40, 9)
 
 
 def grass():
     body = s.rect(0, 0, CELL, CELL, p.GRASS)
     body += endless(lambda r: smudge(r, (p.GRASS_LIGHT, p.GRASS_DARK), r.uniform(1.5, 3.5), .3), 3, 50, 6)
-    body += between()
     body += endless(lambda r: tuft(r, (p.GRASS_DARK, p.GRASS_LIGHT), r.choice((1.8, 2.4, 3.4)), .9, .75,
                                    r.choice((1, 2, 3))), 5, 70, 6)
-    return texture(body, 10)
+    return texture(body, 6)
 
 
 def meadow():
     body = s.rect(0, 0, CELL, CELL, WET)
     body += endless(lambda r: smudge(r, (WET_LIGHT, WET_DARK), r.uniform(2, 4), .35), 13, 44, 6)
-    body += between()
     body += endless(lambda r: tuft(r, (WET_DARK, WET_LIGHT), r.choice((2.4, 3.6, 5)), .9, .8,
                                    r.choice((2, 3, 4))), 15, 56, 5)
-    return texture(body, 11)
+    return texture(body, 7)
+
+
+def mingled(grass_cell, meadow_cell):
+    """Both with the same tufts, halfway from one to the other, on nearly half of them.
+
+    Now and then a cell of grass lies straight against the meadow, without a shore: there is nothing
+    to be seen of the step between them wherever it runs through such a tuft.
+    """
+    body = s.rect(0, 0, CELL, CELL, "#000000")
+    body += endless(lambda r: tuft(r, ("#ffffff",), r.choice((4, 6, 8)), 2.4, 1, 5), 47, 26, 30)
+    share = fine(rendered(body)[..., 0] / 255, 2.6, 4.2)[..., None]
+    common = (grass_cell + meadow_cell) / 2
+    return tuple(cell + (common - cell) * share for cell in (grass_cell, meadow_cell))
 
 
 # Which way the meadow lies from a straight shore, and which corner of its cell a bent one goes
@@ -214,10 +226,10 @@ def clumps(rng, tile):
     if tile in BENT:
         line = shoreline(tile)
         spots = []
-        for _ in range(60):
+        for _ in range(45):
             x, y = rng.uniform(4, CELL - 4), rng.uniform(8, CELL - 4)
             d = float(depth(line, numpy.array(x), numpy.array(y)))
-            if 2.2 < d < 7 and all(numpy.hypot(x - a, y - b) > 1.9 for a, b in spots):
+            if 2 < d < 8 and all(numpy.hypot(x - a, y - b) > 2.1 for a, b in spots):
                 spots.append((x, y))
         for x, y in spots:
             thing = reeds(rng) if tile in REEDS else flower(rng)
@@ -291,11 +303,11 @@ def draw_tile(tile, grass_cell, meadow_cell):
         x, y = numpy.meshgrid(axis, axis)
         line = shoreline(tile)
 
-        def fine(values):
+        def enlarged(values):
             picture = Image.fromarray(values.astype(numpy.float32), "F")
             return numpy.asarray(picture.resize((size, size), Image.BILINEAR)).astype(float)
 
-        d, nearer = fine(depth(line, x, y)), fine(depth(line, x - LIGHT, y - LIGHT))
+        d, nearer = enlarged(depth(line, x, y)), enlarged(depth(line, x - LIGHT, y - LIGHT))
         # damp grass first, then the meadow itself
         mixed = ground + (wet - ground) * (.3 * smooth(-6, 0, d) + .7 * smooth(-.7, .7, d))
         rim = smooth(-.5, 1, d) * (1 - smooth(-1, 15.5, d))
@@ -317,7 +329,7 @@ def draw_tile(tile, grass_cell, meadow_cell):
     return picture.resize((SHEET[0], SHEET[0]), Image.LANCZOS, (left, top, size - left, size - top))
 
 
-grass_cell, meadow_cell = grass(), meadow()
+grass_cell, meadow_cell = mingled(grass(), meadow())
 sheet = Image.new("RGB", (3 * SHEET[0], 6 * SHEET[0]))
 for tile in range(18):
     sheet.paste(draw_tile(tile, grass_cell, meadow_cell), (tile % 3 * SHEET[0], tile // 3 * SHEET[0]))
