@@ -149,5 +149,5 @@ for row, draw in enumerate((lambda f: side(f, 1), behind, lambda f: side(f, -1),
     for column in range(4):
         sheet += (f'<svg x="{column * FRAME}" y="{row * FRAME}" width="{FRAME}" height="{FRAME}" '
                   f'viewBox="0 0 {FRAME} {FRAME}"><g transform="translate(-.35 -.27) scale(1.03)">'
-                  f"{s.shadow(15.6, 26.8, 7.4, 1.4, 5.4, .4)}{draw(column)}</g></svg>")
+                  f"{s.shadow(15.6, 25.8, 6.9, 1, 5, .42)}{draw(column)}</g></svg>")
 kit.save("VorelDefense_grunts.PNG", kit.render(kit.svg(4 * FRAME, 4 * FRAME, sheet, s.SHADOW_BLUR), 512, 512))
