@@ -128,7 +128,7 @@ def mingled(grass_cell, meadow_cell):
     to be seen of the step between them wherever it runs through such a tuft.
     """
     body = s.rect(0, 0, CELL, CELL, "#000000")
-    body += endless(lambda r: tuft(r, ("#ffffff",), r.choice((4, 6, 8)), 2.4, 1, 5), 47, 26, 30)
+    body += endless(lambda r: tuft(r, ("#ffffff",), r.choice((3, 5, 7)), 2, 1, 4), 51, 34, 4)
     share = fine(rendered(body)[..., 0] / 255, 2.6, 4.2)[..., None]
     common = (grass_cell + meadow_cell) / 2
     return tuple(cell + (common - cell) * share for cell in (grass_cell, meadow_cell))
