@@ -3,7 +3,8 @@
 //     vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]      in the folder that holds Assets/
 //
 // The scene goes on for so many seconds, or until it is closed; its last frame is kept in the picture. Each number for
-// the ground gives another one, always the same. At the end the work for one frame is printed. Scenes, N being a number:
+// the ground gives another one, always the same. At the end the work for one frame is printed. Scenes, N being a
+// number:
 //
 //     title       the title screen
 //     busy        ten turrets fire at the twenty grunts that are on the field and at forty more that follow
@@ -13,6 +14,7 @@
 //     roundendN   wave N, from 2 to 4, undefended and just before its end: the last of its grunts is still on its way
 //     defeat      the moment before the last grunt spoils the water
 //     preview     a turret is about to be bought
+//     playN       six turrets, and the grunts of wave N close to them; the mouse buys, places and fires
 
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
@@ -43,6 +45,7 @@ constexpr double STEP = 0.02; // seconds
 struct Player {
     Vecteur2D mouse{512, 160};
     bool fires = false;
+    bool isReal = false; ///< Someone holds the mouse; otherwise it goes its round by itself.
 };
 
 
@@ -61,12 +64,12 @@ void jumpToWave(Game& game, int number) {
 }
 
 
-/// Ten turrets like the shop's, but they need no water, so they can fire for minutes.
-void placeTurrets(Game& game) {
-    constexpr int PLACES[][2] = {{416, 448}, {608, 448}, {416, 256}, {608, 256}, {512, 512},
-                                 {512, 192}, {320, 352}, {704, 352}, {288, 512}, {736, 192}};
-    for (const auto& place : PLACES)
-        game.addWeapon(Weapon({1.0 * place[0], 1.0 * place[1]}, "", 0, 300, 300, 50, 1, 10, 10, 80));
+/// The first so many of ten turrets like the shop's. Those that need no water hold out for minutes.
+void placeTurrets(Game& game, int count = 10, double waterPerShot = 0) {
+    constexpr int PLACES[10][2] = {{416, 448}, {608, 448}, {416, 256}, {608, 256}, {512, 512},
+                                   {512, 192}, {320, 352}, {704, 352}, {288, 512}, {736, 192}};
+    for (int i = 0; i < count; ++i)
+        game.addWeapon(Weapon({1.0 * PLACES[i][0], 1.0 * PLACES[i][1]}, "", waterPerShot, 300, 300, 50, 1, 10, 10, 80));
 }
 
 
@@ -99,6 +102,11 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
         jumpToWave(game, name == "busy" ? 21 : number);
         pass(game, 24);
         player.fires = true;
+    } else if (name == "play") {
+        placeTurrets(game, 6, 1);
+        jumpToWave(game, number);
+        pass(game, 27);
+        player.isReal = true;
     } else if (name == "water") {
         takeWater(game, 100 - number);
     } else if (name == "pollution") {
@@ -121,10 +129,10 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
 /// One step and one frame of the game.
 void play(Game& game, Player& player, double time) {
     // The mouse goes once around the tower in twenty seconds.
-    if (player.fires) {
+    if (player.fires && !player.isReal)
         player.mouse = {512 + 260 * std::cos(time * 0.314), 352 + 200 * std::sin(time * 0.314)};
+    if (player.fires)
         game.shoot(player.mouse);
-    }
     game.update(STEP);
     prepareFrame(WIDTH, HEIGHT);
     game.draw(1000 * STEP, player.mouse[0], player.mouse[1]);
@@ -132,11 +140,36 @@ void play(Game& game, Player& player, double time) {
 }
 
 
-bool isClosed() {
+/// What a press of the left button does where the mouse is.
+void press(Game& game, Player& player) {
+    const int x = static_cast<int>(player.mouse[0]);
+    const int y = static_cast<int>(player.mouse[1]);
+    if (game.aCliqueTourelle(x, y)) {
+        game.activeTourelle();
+    } else if (game.tourelleActivite()) {
+        game.poserTourelle(x, y);
+        game.desactiveTourelle();
+    } else {
+        player.fires = true;
+    }
+}
+
+
+/// Takes what was done to the window, and says whether it was closed.
+bool isClosed(Game& game, Player& player) {
     SDL_Event event;
     bool closed = false;
-    while (SDL_PollEvent(&event) != 0)
+    while (SDL_PollEvent(&event) != 0) {
         closed = closed || event.type == SDL_QUIT || (event.type == SDL_KEYDOWN && event.key.keysym.sym == SDLK_ESCAPE);
+        if (!player.isReal)
+            continue;
+        if (event.type == SDL_MOUSEMOTION)
+            player.mouse = Vecteur2D(event.motion.x, HEIGHT - event.motion.y);
+        else if (event.type == SDL_MOUSEBUTTONDOWN)
+            press(game, player);
+        else if (event.type == SDL_MOUSEBUTTONUP)
+            player.fires = false;
+    }
     return closed;
 }
 
@@ -157,7 +190,7 @@ std::vector<double> run(Game& game, Player& player, double seconds, const char* 
     using Clock = std::chrono::steady_clock;
     std::vector<double> work;
     Uint32 shown = SDL_GetTicks();
-    for (double time = 0; time <= seconds && !isClosed(); time += STEP) {
+    for (double time = 0; time <= seconds && !isClosed(game, player); time += STEP) {
         const auto start = Clock::now();
         play(game, player, time);
         if (picture != nullptr && time + STEP > seconds)
