@@ -105,7 +105,7 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
     } else if (name == "play") {
         placeTurrets(game, 6, 1);
         jumpToWave(game, number);
-        pass(game, 27);
+        pass(game, 33);
         player.isReal = true;
     } else if (name == "water") {
         takeWater(game, 100 - number);
