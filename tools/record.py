@@ -110,7 +110,7 @@ def play(window, hand, field):
             hand.button(X.ButtonRelease)
             hand.glide((512, 690), 0.6)
             return placed, seen, panel
-    sys.exit("The wave did not end.")
+    sys.exit("The wave did not end. Is the machine busy with something else?")
 
 
 def ffmpeg(*words):
@@ -128,17 +128,21 @@ def record():
                                    "-video_size", f"{WIDTH}x{HEIGHT}", "-i", window.display, "-c:v", "libx264",
                                    "-preset", "ultrafast", "-qp", "0", pictures], stdin=subprocess.PIPE)
         time.sleep(1)
+        begun, heard_then = time.monotonic(), os.path.getsize(sound)
         placed, seen, panel = play(window, hand, field)
         time.sleep(PANEL[1] + 0.2)
-        heard = os.path.getsize(sound) / BYTES_A_SECOND
+        heard = os.path.getsize(sound)
+        pace = (heard - heard_then) / BYTES_A_SECOND / (time.monotonic() - begun)
         camera.stdin.write(b"q")
         camera.stdin.flush()
         stopped = time.monotonic()
         camera.wait(20)
     shown = float(subprocess.check_output(["ffprobe", "-v", "error", "-show_entries", "format=duration", "-of", "csv=p=0",
                                            pictures]))
-    ffmpeg("-f", "s16le", "-ar", 44100, "-ac", 2, "-ss", max(0, heard - shown), "-i", sound, "-i", pictures,
-           "-c:v", "copy", "-c:a", "flac", f"{FOLDER}/both.mkv")
+    # What writes the sound to a file keeps time less well than a sound card: its seconds are stretched to real ones.
+    rate = round(44100 * pace)
+    ffmpeg("-f", "s16le", "-ar", rate, "-ac", 2, "-ss", max(0, heard / (4 * rate) - shown), "-i", sound, "-i", pictures,
+           "-c:v", "copy", "-ar", 44100, "-c:a", "flac", f"{FOLDER}/both.mkv")
     start = stopped - shown
     return f"{FOLDER}/both.mkv", placed - start, [(moment - start, hats) for moment, hats in seen], panel - start
 

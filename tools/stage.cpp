@@ -103,7 +103,7 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
         pass(game, 24);
         player.fires = true;
     } else if (name == "play") {
-        placeTurrets(game, 6, 1);
+        placeTurrets(game, 6, 0.5);
         jumpToWave(game, number);
         pass(game, 33);
         player.isReal = true;
