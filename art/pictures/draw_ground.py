@@ -131,7 +131,13 @@ def mingled(grass_cell, meadow_cell):
     body += endless(lambda r: tuft(r, ("#ffffff",), r.choice((3, 5, 7)), 2, 1, 4), 51, 34, 4)
     share = fine(rendered(body)[..., 0] / 255, 2.6, 4.2)[..., None]
     common = (grass_cell + meadow_cell) / 2
-    return tuple(cell + (common - cell) * share for cell in (grass_cell, meadow_cell))
+    return tuple(without_lines(cell + (common - cell) * share) for cell in (grass_cell, meadow_cell))
+
+
+def without_lines(cell):
+    """A row or column that is brighter than the others would go across the whole field."""
+    mean = cell.mean((0, 1))
+    return cell - (cell.mean(0, keepdims=True) - mean) - (cell.mean(1, keepdims=True) - mean)
 
 
 # Which way the meadow lies from a straight shore, and which corner of its cell a bent one goes
