@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Plays the game of build/web/ at random in a real browser, as tools/randomPlayer.py plays the program.
 
-    bench/web/randomPlayer.py SECONDS [SEED]
+    bench/web/randomVisitor.py SECONDS [SEED]
 
 Prints twenty times on the way how many bytes the page's script and the game itself hold; fails if the browser complains, or
 if after the first tenth either grows.
