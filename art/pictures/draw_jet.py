@@ -1,24 +1,31 @@
-"""The water jet in flight: under ten pixels on the screen, so a white head, its wake, and nothing else.
+"""The water jet in flight: a white head and a long tail, as long as its picture, for it is under ten pixels on the screen.
 
-OpenGL shows it through a copy of eight by eight pixels, so what is less than two units wide is lost;
-a dark line and a white middle are what stays bright on grass, on sludge and on a grey picture.
+OpenGL shows it through copies of sixteen by sixteen and of eight by eight pixels, so what is less
+than two units wide is lost. Nothing on the field is as bright, in grey too; the dark line is there
+to part the white from light ground, so it goes round the head and fades out along the tail.
 """
 
 import kit
 import palette as p
 import shapes as s
 
+HEAD = 11.6        # where the head is widest
 
 
-def drop(x, r, tail, fill):
-    """A round head at x and straight sides that meet at `tail`: a hollow waist would be too thin to be seen."""
-    sine = r / (x - tail)
-    touch, wide = x - r * sine, r * (1 - sine * sine) ** .5
-    return s.path(f"M{tail},8 L{touch:.2f},{8 - wide:.2f} A{r},{r} 0 1 1 {touch:.2f},{8 + wide:.2f} Z", fill)
+def streak(end, tip, thin, wide, fill):
+    """A tail that widens from its end to the head, and the round head, with a slight neck before it."""
+    neck, shoulder = HEAD - 2.6, HEAD - 1.2
+    upper, lower = 8 - wide * .74, 8 + wide * .74
+    return s.path(f"M{end},{8 - thin:.2f} L{neck:.2f},{upper:.2f} Q{shoulder:.2f},{8 - wide:.2f} {HEAD},{8 - wide:.2f} "
+                  f"Q{tip},{8 - wide:.2f} {tip},8 Q{tip},{8 + wide:.2f} {HEAD},{8 + wide:.2f} "
+                  f"Q{shoulder:.2f},{8 + wide:.2f} {neck:.2f},{lower:.2f} L{end},{8 + thin:.2f} Z", fill)
 
 
-# Flies towards +x. One of the sixteen units stays free all round, because the edges wrap.
-body = drop(9.9, 5.1, .9, s.mix(p.WATER_DEEP, p.OUTLINE, .3)) + drop(10, 3.9, 1.6, "url(#wake)")
-defs = s.gradient("wake", [(0, p.WATER_LIGHT), (.35, "#ffffff")], x2=1, y2=0)
+# Flies towards +x. The edges wrap: what shows of the tail beyond the tip is no more than its faint end.
+body = streak(.3, 15.6, 1.8, 4.9, "url(#line)") + streak(.2, 15, 1.3, 3.9, "url(#water)")
+defs = (s.gradient("line", [(0, p.WATER_DEEP, 0), (.4, p.WATER_DEEP, .36),
+                            (.75, s.mix(p.WATER_DEEP, p.OUTLINE, .4), .9)], x2=1, y2=0)
+        + s.gradient("water", [(0, p.WATER_LIGHT, .95), (.25, s.mix(p.WATER_LIGHT, "#ffffff", .45)), (.6, "#ffffff")],
+                     x2=1, y2=0))
 
 kit.save("VorelDefence_projectile.PNG", kit.render(kit.svg(16, 16, body, defs), 64, 64))
