@@ -146,7 +146,7 @@ STRAIGHT = {1: (0, 1), 7: (0, -1), 3: (1, 0), 5: (-1, 0)}
 CORNER = {0: (1, 1), 2: (0, 1), 6: (1, 0), 8: (0, 0)}
 HOLLOW = {9: (1, 1), 11: (0, 1), 15: (1, 0), 17: (0, 0)}
 BENT = {**CORNER, **HOLLOW}
-REEDS = (2, 6, 9, 17)   # the bent shores where reeds grow, and on the others flowers
+REEDS = (2, 6, 9, 17)   # the bent shores where reeds grow, and on the others short grass
 SHORES = sorted({**STRAIGHT, **BENT})
 
 
@@ -227,7 +227,7 @@ def growth(rng, places):
 
 
 def clumps(rng, tile):
-    """What grows in the bays: reeds or flowers. Straight shores stand next to their like and have none."""
+    """What grows in the bays: reeds or short grass. Straight shores stand next to their like and have none."""
     things = []
     if tile in BENT:
         line = shoreline(tile)
@@ -238,7 +238,7 @@ def clumps(rng, tile):
             if 2 < d < 8 and all(numpy.hypot(x - a, y - b) > 2.1 for a, b in spots):
                 spots.append((x, y))
         for x, y in spots:
-            thing = reeds(rng) if tile in REEDS else flower(rng)
+            thing = reeds(rng) if tile in REEDS else short_grass(rng)
             things.append((y, f'<g transform="translate({x:.2f} {y:.2f})">{thing}</g>'))
     return things
 
@@ -247,10 +247,9 @@ def reeds(rng):
     return tuft(rng, (p.MEADOW_DARK, DAMP, WET_DARK), rng.uniform(3.5, 6.5), 1, .85, 2)
 
 
-def flower(rng):
-    """A few pale petals on the meadow: none so bright that the eye counts them."""
-    size, fill = rng.uniform(.6, 1.05), s.mix(p.FLOWER, WET, rng.uniform(.3, .6))
-    return (s.circle(.3, .5, size * 1.2, p.MEADOW_DARK, more='opacity="0.35"') + s.circle(0, 0, size, fill))
+def short_grass(rng):
+    """Hardly more than the meadow's own. A slanting shore has the same tile on each of its steps: the eye would count dots."""
+    return tuft(rng, (WET_DARK, WET_DARK, WET_LIGHT), rng.uniform(2.2, 4), .9, .6, 2)
 
 
 STEP = 1.15          # units from one place where something grows to the next
