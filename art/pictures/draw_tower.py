@@ -38,7 +38,7 @@ def leg(x0, x1, y0, y1, w):
 
 
 def back():
-    body = s.shadow(62, 116, 35, 4.6, 16, .26)
+    body = s.shadow(62, 112.5, 35, 6, 21, .26)
     for x in (32, 64, 96):
         body += s.shadow(x, 120.4, 6.5 if x != 64 else 9.5, 1.6, 4)
     # the legs at the back stand closer together and higher
