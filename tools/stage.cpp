@@ -208,7 +208,10 @@ std::vector<double> run(Game& game, Player& player, double seconds, const char* 
 int main(int argc, char** argv) {
     SDL_Init(SDL_INIT_VIDEO);
     openAudio();
-    SDL_SetVideoMode(WIDTH, HEIGHT, 32, SDL_OPENGL);
+    if (SDL_SetVideoMode(WIDTH, HEIGHT, 32, SDL_OPENGL) == nullptr) {
+        std::fprintf(stderr, "There is no window with OpenGL: %s\n", SDL_GetError());
+        return 1;
+    }
     std::srand(argc > 4 ? std::atoi(argv[4]) : 4); // the same ground every time
 
     Game game(WIDTH, HEIGHT);
