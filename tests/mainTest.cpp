@@ -90,7 +90,8 @@ TEST_F(MainLoop, theShopsButtonSelectsATurretForOneClickAndLetsGoOfIt) {
 }
 
 
-TEST_F(MainLoop, theRangeOfATurretIsShownWhereTheMouseIs) {
+TEST_F(MainLoop, aTurretNearTheMouseShowsItsRange) {
+    // The turret stands at (192, 544); the first corner of its range is 300 pixels to the right.
     const Film film = play({click(SHOP), click(FIELD), moveTo({192, 583}), frames(1), moveTo({192, 584})});
     EXPECT_EQ(film.count("no texture 492,544", 0), 1U) << "39 pixels from the turret";
     EXPECT_EQ(film.count("no texture", 1), 0U) << "40 pixels";
@@ -101,16 +102,17 @@ TEST_F(MainLoop, aHeldLeftButtonFiresOnceASecondUntilAnyButtonIsReleased) {
     const Film film = play({click(SHOP), click(BELOW_FIELD), click(SHOP), click(FIELD), press(NEAR_FIELD), frames(20),
                             key(SDLK_SPACE), frames(60), key(SDLK_SPACE), frames(60), moveTo(FAR_AWAY), frames(60),
                             press(SHOP), moveTo(NEAR_FIELD), frames(60), release(SDL_BUTTON_WHEELUP), frames(60)});
-    const std::string jet = "VorelDefence_projectile";
+    const std::string jet = "VorelDefence_projectile"; // each volley is two of them, one from each turret
     EXPECT_EQ(film.firstFrameWith(4, jet), 50U + 60) << "a second after the first shot, the pause left out";
     EXPECT_EQ(film.firstFrameWith(6, jet), 20U + 60 + 60 + 60) << "as soon as the mouse is back in range";
-    EXPECT_EQ(linesStarting("WaterStream", mixer.played).size(), 2U + 2 + 2 + 2);
+    EXPECT_EQ(linesStarting("WaterStream", mixer.played).size(), 2U + 2 + 2 + 2) << "the first volley and three more";
     EXPECT_EQ(built(), 2U) << "a press while one is held does not reach the shop";
 }
 
 
 TEST_F(MainLoop, aClickBetweenWavesIsTakenAtAnyMoment) {
-    // The only grunt enters on the left and has arrived after 2,512 steps; the next three follow 15 seconds later.
+    // The only grunt has arrived after 2,512 steps. The next wave begins 15 seconds later, and its first grunt enters a
+    // second into it.
     const Film film = play({key(SDLK_a), frames(2513), click(FIELD), frames(750 + 50)});
     EXPECT_EQ(film.count("VorelDefense_grunts", 2512), 0U);
     EXPECT_EQ(film.count("VorelDefense_grunts", film.drawn.size() - 1), 1U);

@@ -1,6 +1,7 @@
 #include "Game/play.h"
 
-/// One object of each class around the game's tower at (512, 352), as the game builds them.
+/// One object of each class, as the game builds them. `tower` stands where the game's own does, but is another: grunts
+/// walk to the game's, and the turret, at (100, 100) like the jet, drinks from this one.
 struct Combat : Play {
     Tower tower{{512, 352}};
     Beam jet{10, 80, 300, {100, 100}, 50, 10, {0, 7}};
@@ -97,6 +98,8 @@ TEST_F(Combat, aGruntFacesTheTower) {
 
 TEST_F(Combat, aGruntWithoutHealthExplodesWalkingAndIsSometimesDrawnWrong) {
     const std::string last = " part 0.875,0.5 1,0.5 1,1 0.875,1"; // the last of eight pictures
+    // One death in five, those that roll 81 or more of 100, shows the wrong sheet, on purpose. Each hit on an exploding
+    // grunt rolls again.
     dice.rolls = {80, 81};
     grunt.removeHealth(100);
     update(grunt, 22);

@@ -1,11 +1,11 @@
 #include "Game/play.h"
 
-TEST_F(Play, aNewGameWaitsOnItsTitle) {
+TEST_F(Play, nobodyEntersOnTheTitleButItsTimeCounts) {
     for (int step = 0; step < 60; ++step)
         game.update(0.02);
     EXPECT_EQ(clocks.readings, 0) << "nobody enters";
     play(1);
-    EXPECT_EQ(clocks.readings, 1) << "the time on the title screen counts";
+    EXPECT_EQ(clocks.readings, 1) << "a second has passed";
 }
 
 
@@ -85,7 +85,8 @@ TEST_F(Play, defeatIsJudgedBeforeTheWavesEnd) {
 }
 
 
-TEST_F(Play, theWaterDrainsOnlyWhileTimePasses) {
+TEST_F(Play, aStepOfNoLengthSoundsNoCoins) {
+    // The drain begins 101 steps after the wave; thirty steps are more than from one coin to the next.
     play(2512 + 110);
     const double water = pureWater();
     ASSERT_LT(water, 90) << "the drain has begun";
@@ -93,7 +94,7 @@ TEST_F(Play, theWaterDrainsOnlyWhileTimePasses) {
     for (int step = 0; step < 30; ++step)
         game.update(0);
     EXPECT_EQ(pureWater(), water);
-    EXPECT_EQ(mixer.played, Lines{}) << "no coins without water";
+    EXPECT_EQ(mixer.played, Lines{}) << "they sound only when water goes";
 }
 
 

@@ -21,7 +21,8 @@ TEST_F(GroundTest, creerTacheMarksADiscOfWholeCellsCutAtTheMapsEdge) {
 
 
 TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
-    // Chance, column and row of a group, then radius, row and column of each of its two patches.
+    // Nine rolls for each of four groups: chance, column and row, then radius, row and column of each of two patches.
+    // The fifth stands in the middle and rolls no place: seven.
     dice.rolls = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
                   1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 5, 3, 9, 4,  7};
     Ground expected = meadow;

@@ -13,7 +13,8 @@ inline Weapon turretAt(double x, double y, double waterConsume = 1, double damag
     return {{x, y}, "", waterConsume, 300, 300, damage, 1, 10, 10, 80};
 }
 
-/// A game on plain ground, and what a player can do in it and see of it.
+/// A game on plain ground, and what a player can do in it and see of it. Unless the clock is set, the first grunt
+/// enters in step 51 of play and reaches the tower in step 2512.
 struct Play : StandinTest {
     Game game{1024, 768};
 

@@ -46,7 +46,7 @@ TEST(Vecteur, refusesWithItsKindOfErrorAndNothingChanged) {
         REFUSE(Vecteur2D{abc}), REFUSE(Vecteur2D(std::vector<double>(1))), REFUSE(Vecteur2D({1, 2, 3})),
         REFUSE(abc.coord(3)), REFUSE(pair.setCoord(4, 2)), REFUSE(abc.cut(2, 2)), REFUSE(abc.getSubVecteur(0, 3))});
     // clang-format on
-    EXPECT_EQ(pair, flat);
+    EXPECT_EQ(pair, flat) << "both are still 1 2";
 }
 
 

@@ -1,5 +1,6 @@
-// In the place of OpenGL and GLU. Matrices, colour and textures work as theirs do, and what is drawn is written down.
-// No pixel is ever set; those read back are the last texture's.
+// In the place of OpenGL and GLU. Matrices, colour and textures work as theirs do, but for two shortcuts: popped
+// attributes are those at rest, whatever was pushed, and turning about another axis than z = 1 shows as a wrong size.
+// What is drawn is written down. No pixel is ever set; those read back are the last texture's.
 
 #include "standin/standin.h"
 

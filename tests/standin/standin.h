@@ -89,7 +89,8 @@ struct Place {
     int x, y;
 };
 
-/// Something that the player does, or frames that pass: each is an event that SDL does not know.
+/// Something that the player does, or frames that pass: a frame is an SDL_NOEVENT, at which polling stops, and which
+/// goes when the frame is shown.
 using Deed = std::vector<SDL_Event>;
 inline Deed frames(int count) { return Deed(count); }
 Deed key(SDLKey symbol);
@@ -111,7 +112,8 @@ inline struct Window {
 constexpr long long LEFT_OF_TOWER = 60911, ABOVE_TOWER = 224874, FAR_RIGHT = 21, BELOW_TOWER = 139199;
 
 inline struct Clocks {
-    /// What time() answers, in seconds; and the system clock, and how often it was read.
+    /// What time() answers, in seconds, and the system clock. The latter is read only when a grunt enters, so that its
+    /// readings count grunts.
     long long calendar = 0, nanoseconds = LEFT_OF_TOWER;
     int readings = 0;
     /// SDL's clock, which wraps soon, and what the work of a frame adds to it, in milliseconds.
