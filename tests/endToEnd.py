@@ -3,7 +3,6 @@
 #
 #     endToEnd.py PROGRAM
 
-import os
 import pathlib
 import shutil
 import sys
@@ -27,5 +26,5 @@ with tempfile.TemporaryDirectory() as name:
     shutil.rmtree(scratch / "Assets/music")
     for number, path in enumerate(sorted((scratch / "Assets/img").iterdir())):
         whole = path.read_bytes()
-        path.write_bytes([b"", whole[: len(whole) // 2], os.urandom(5000)][number % 3])
+        path.write_bytes([b"", whole[: len(whole) // 2], b"noise" * 1000][number % 3])
     assert loudest_of(play_shortly, program, scratch) > 100, "the purchase was not heard"

@@ -26,10 +26,9 @@ TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
     dice.rolls = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
                   1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 5, 3, 9, 4,  7};
     Ground expected = meadow;
-    for (const auto& [x, y] : {std::pair(9, 7), {25, 5}, {9, 17}, {25, 19}, {15, 13}})
-        creerTache(x, y, 2, expected);
-    for (const auto& [x, y] : {std::pair(8, 8), {16, 12}})
-        creerTache(x, y, 3, expected);
+    for (const auto& [x, y, radius] :
+         {std::tuple(9, 7, 2), {8, 8, 3}, {25, 5, 2}, {9, 17, 2}, {25, 19, 2}, {15, 13, 2}, {16, 12, 3}})
+        creerTache(x, y, radius, expected);
     EXPECT_TRUE(creation_sol() == expected);
     EXPECT_TRUE(creation_sol() == meadow) << "rolls of 60 are no chance";
 }

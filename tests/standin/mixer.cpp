@@ -13,7 +13,8 @@ static std::string name(const void* sound) {
 extern "C" {
 
 int Mix_OpenAudio(int rate, Uint16 format, int sides, int chunk) {
-    return call("open audio", rate, format == AUDIO_S16LSB ? "S16LSB" : "other", sides, chunk) + mixer.deviceAnswer;
+    call("open audio", rate, format == AUDIO_S16LSB ? "S16LSB" : "other", sides, chunk);
+    return mixer.deviceAnswer;
 }
 int Mix_AllocateChannels(int count) { return call("channels", count); }
 Mix_Chunk* Mix_LoadWAV_RW(SDL_RWops*, int) {

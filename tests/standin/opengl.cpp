@@ -92,7 +92,9 @@ void glGenTextures(GLsizei, GLuint* name) {
     textures.push_back({files.opened, "", 0, 0});
 }
 void glTexParameteri(GLenum, GLenum which, GLint filter) {
-    (which == GL_TEXTURE_MIN_FILTER ? textures[screen.texture].smaller : textures[screen.texture].larger) = filter;
+    Texture& texture = textures[screen.texture];
+    GLint& kept = which == GL_TEXTURE_MIN_FILTER ? texture.smaller : texture.larger;
+    kept = filter;
 }
 void glTexImage2D(GLenum, GLint, GLint parts, GLsizei w, GLsizei h, GLint, GLenum format, GLenum, const void* pixels) {
     textures[screen.texture].upload = toString(parts) + (format == GL_RGBA ? " RGBA" : " other");
