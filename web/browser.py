@@ -23,6 +23,10 @@ FLAGS = """--no-sandbox --kiosk --no-first-run --disable-quic --disable-backgrou
   --remote-debugging-port=0""".split()
 
 
+class Refusal(Exception):
+    """The browser can't do what it was asked to, or the page can't answer."""
+
+
 class Server:
     """Serves a folder on the loopback address; ends with the `with` block."""
 
@@ -82,12 +86,15 @@ class Browser(Window):
         self.profile.cleanup()
 
     def wait_for(self, what, true, seconds=100):
-        end = time.monotonic() + seconds
+        end, refusal = time.monotonic() + seconds, ""
         while time.monotonic() < end:
-            if answer := true():
-                return answer
+            try:
+                if answer := true():
+                    return answer
+            except Refusal as reason:  # a page that is only coming up can't answer yet
+                refusal = f" ({reason})"
             time.sleep(0.1)
-        sys.exit(f"Not there within {seconds} seconds: {what}")
+        sys.exit(f"Not there within {seconds} seconds: {what}{refusal}")
 
     def call(self, method, **parameters):
         """One command of the browser's debugging interface; notes every complaint that comes before the answer."""
@@ -97,7 +104,7 @@ class Browser(Window):
             message = json.loads(self.socket.recv())
             if message.get("id") == self.calls:
                 if "error" in message:
-                    sys.exit(f"{method}: {message['error']}")
+                    raise Refusal(f"{method}: {message['error']}")
                 return message["result"]
             self.note(message.get("method"), message.get("params"))
 
@@ -116,7 +123,7 @@ class Browser(Window):
         """What an expression of the page's language comes to."""
         answer = self.call("Runtime.evaluate", expression=expression, awaitPromise=True, returnByValue=True)
         if "exceptionDetails" in answer:
-            sys.exit(f"{expression}: {answer['exceptionDetails']}")
+            raise Refusal(f"{expression}: {answer['exceptionDetails']}")
         return answer["result"].get("value")
 
     def place(self, element):
