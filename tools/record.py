@@ -184,7 +184,7 @@ def cut(whole, placed, seen, panel):
 
 if __name__ == "__main__":
     os.chdir(os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-    subprocess.run(["sh", "-c", ". tools/packages && tools/need $build $session $record"], check=True)
+    subprocess.run(["tools/need", "build", "session", "record"], check=True)
     subprocess.run(["tools/buildPreset", "release", "--target", "vorel-stage"], check=True, stdout=subprocess.DEVNULL)
     os.makedirs(FOLDER, exist_ok=True)
     cut(*record())
