@@ -3,6 +3,9 @@
 #include "standin/standin.h"
 
 #include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
 
 using Bytes = std::vector<Uint8>;
 
@@ -27,8 +30,8 @@ TEST_F(Pictures, takeScreenshotShowsWhatTheWindowShowsWhateverItsAlpha) {
     screen.texels = {10, 20, 30, 0, 40, 50, 60, 128};
     EXPECT_EQ(takeScreenshot("shot.bmp"), 0);
     EXPECT_EQ(calls, Lines{"read 3 5 1 2"}) << "the whole viewport";
-    const auto firstRow = files.saved.begin() + 54; // behind the headers, blue, green and red
-    EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40}));
+    const auto firstRow = files.saved.begin() + files.saved.at(10); // the header says where it begins
+    EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40})) << "blue, green and red";
     EXPECT_EQ(takeScreenshot("nowhere.bmp"), -1);
 }
 
