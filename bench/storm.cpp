@@ -8,6 +8,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
+#include <cstddef>
 #include <memory>
 
 namespace {

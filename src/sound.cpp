@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <fstream>
 #include <initializer_list>
+#include <ios>
 
 namespace {
 

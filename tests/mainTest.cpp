@@ -1,5 +1,11 @@
 #include "standin/standin.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
 extern "C" int SDL_main(int argc, char** argv);
 
 /// A session, frame by frame: what was drawn, and which screen that is.

@@ -3,6 +3,9 @@
 #include "standin/standin.h"
 
 #include <fstream>
+#include <ios>
+#include <string>
+#include <utility>
 
 struct Sound : StandinTest {};
 

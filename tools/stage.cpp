@@ -32,6 +32,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <ratio>
 #include <string>
 #include <vector>
 

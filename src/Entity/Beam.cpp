@@ -1,6 +1,10 @@
 #include "Entity/Beam.h"
 
+#include "Entity/Ennemi.h"
+#include "Entity/Entity.h"
+#include "Entity/Tower.h"
 #include "Game/Game.h"
+#include "Vecteur/Vecteur2D.h"
 #include "drawing.h"
 #include "sound.h"
 

@@ -1,7 +1,10 @@
 #include "Entity/Ennemi.h"
 
 #include "Entity/Beam.h"
+#include "Entity/Entity.h"
+#include "Entity/Tower.h"
 #include "Game/Game.h"
+#include "Vecteur/Vecteur2D.h"
 #include "drawing.h"
 #include "sound.h"
 
@@ -10,6 +13,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <string>
 
 namespace {
 

@@ -1,8 +1,10 @@
 #include "Entity/Entity.h"
 
 #include "Game/Game.h"
+#include "Vecteur/Vecteur2D.h"
 #include "sdlglutils.h"
 
+#include <cmath>
 #include <map>
 #include <string>
 

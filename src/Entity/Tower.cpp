@@ -1,9 +1,13 @@
 #include "Entity/Tower.h"
 
 #include "Entity/Ennemi.h"
+#include "Entity/Entity.h"
 #include "Game/Game.h"
+#include "Vecteur/Vecteur2D.h"
 #include "drawing.h"
 #include "sdlglutils.h"
+
+#include <algorithm>
 
 #include <SDL_opengl.h>
 
@@ -43,18 +47,10 @@ double Tower::getRatio() const { return m_water > 0.0 ? m_pollution / m_water : 
 bool Tower::canRemoveWater(const double& water) const { return getPureWaterLeft() >= water; }
 
 
-void Tower::removeWater(const double& water) {
-    m_water -= water;
-    if (m_water < 0.0)
-        m_water = 0.0;
-}
+void Tower::removeWater(const double& water) { m_water = std::max(m_water - water, 0.0); }
 
 
-void Tower::refil(const double& water) {
-    m_water += water;
-    if (m_water > m_capacity)
-        m_water = m_capacity;
-}
+void Tower::refil(const double& water) { m_water = std::min(m_water + water, m_capacity); }
 
 
 void Tower::addPollution(const double& pollution) {

@@ -1,14 +1,20 @@
 #include "Entity/Weapon.h"
 
 #include "Entity/Beam.h"
+#include "Entity/Ennemi.h"
+#include "Entity/Entity.h"
 #include "Entity/Tower.h"
 #include "Game/Game.h"
+#include "Vecteur/Vecteur2D.h"
 #include "drawing.h"
 #include "sound.h"
 #include "utility/utility.h"
 
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>
+#include <cstddef>
+#include <string>
+#include <vector>
 
 namespace {
 

@@ -2,6 +2,7 @@
 #define WEAPON_H
 
 #include "Entity/Entity.h"
+#include "Vecteur/Vecteur2D.h"
 
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>

@@ -1,6 +1,8 @@
 #include "Game/Game.h"
 
 #include "Entity/Ennemi.h"
+#include "Vecteur/Vecteur2D.h"
+#include "Wave/Wave.h"
 #include "sdlglutils.h"
 #include "utility/utility.h"
 

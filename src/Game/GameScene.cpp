@@ -1,5 +1,7 @@
+#include "Entity/Weapon.h"
 #include "Game/Game.h"
 
+#include "Vecteur/Vecteur2D.h"
 #include "drawing.h"
 #include "openglDrawCircle.h"
 

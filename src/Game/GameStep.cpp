@@ -1,7 +1,11 @@
+#include "Entity/Entity.h"
+#include "Entity/Weapon.h"
 #include "Game/Game.h"
 
 #include "Entity/Beam.h"
 #include "Entity/Ennemi.h"
+#include "Vecteur/Vecteur2D.h"
+#include "Wave/Wave.h"
 #include "sound.h"
 
 #include <SDL_mixer.h>

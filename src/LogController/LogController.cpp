@@ -1,7 +1,10 @@
 #include "LogController/LogController.h"
+#include "utility/utility.h"
 
 #include <cstdint>
 #include <ctime>
+#include <ostream>
+#include <string>
 #include <utility>
 
 namespace {

@@ -1,4 +1,6 @@
 #include "LogController/LogControllerDef.h"
+#include "LogController/LogController.h"
+#include "LogController/LogControllerError.h"
 
 #include <iostream>
 

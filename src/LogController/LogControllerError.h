@@ -3,6 +3,8 @@
 
 #include "LogController/LogController.h"
 
+#include <ostream>
+
 /// The logger of errors: its lines carry the prefix "[Error]".
 class LogControllerError : public LogController {
 public:

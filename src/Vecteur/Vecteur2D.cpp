@@ -1,6 +1,10 @@
 #include "Vecteur/Vecteur2D.h"
+#include "Vecteur/FixeSizeVecteur.h"
+#include "Vecteur/vecteur.h"
 
 #include <cmath>
+#include <initializer_list>
+#include <vector>
 
 namespace {
 

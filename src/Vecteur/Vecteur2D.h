@@ -2,6 +2,7 @@
 #define VECTEUR_2D_H
 
 #include "Vecteur/FixeSizeVecteur.h"
+#include "Vecteur/vecteur.h"
 
 #include <initializer_list>
 #include <vector>

@@ -1,11 +1,15 @@
 #include "Vecteur/vecteur.h"
 
+#include "exception/exception.h"
 #include "exception/exceptionTypeDef.h"
 
 #include <cmath>
+#include <cstddef>
+#include <initializer_list>
 #include <iostream>
 #include <sstream>
 #include <utility>
+#include <vector>
 
 Vecteur::Vecteur() = default;
 

@@ -1,7 +1,6 @@
 #ifndef VECTEUR_H
 #define VECTEUR_H
 
-#include "exception/exception.h"
 
 #include <cstddef>
 #include <initializer_list>

@@ -1,6 +1,10 @@
 #include "Wave/Wave.h"
+#include "Entity/Ennemi.h"
+#include "Vecteur/Vecteur2D.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 int Wave::ID = 0;
 

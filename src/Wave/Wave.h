@@ -2,6 +2,7 @@
 #define WAVE_H
 
 #include "Entity/Ennemi.h"
+#include "Vecteur/Vecteur2D.h"
 
 #include <cstddef>
 #include <vector>

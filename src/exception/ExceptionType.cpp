@@ -1,5 +1,6 @@
 #include "exception/ExceptionType.h"
 
+#include <string>
 #include <utility>
 
 ExceptionType::ExceptionType(unsigned int exceptionNumberPara, std::string descriptionPara, std::string namePara)

@@ -1,8 +1,10 @@
 #include "exception/exception.h"
 
 #include "LogController/LogControllerDef.h"
+#include "exception/ExceptionType.h"
 
 #include <sstream>
+#include <string>
 #include <utility>
 
 Exception::Exception(int linePara, std::string fileNamePara, std::string functionNamePara,

@@ -1,4 +1,8 @@
 #include "Game/play.h"
+#include "standin/standin.h"
+
+#include <tuple>
+#include <utility>
 
 TEST_F(Play, nobodyEntersOnTheTitleButItsTimeCounts) {
     for (int step = 0; step < 60; ++step)

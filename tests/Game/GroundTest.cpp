@@ -1,6 +1,12 @@
-#include "Game/play.h"
+#include "Game/Game.h"
+#include "standin/standin.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <deque>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 static const Ground meadow(32, std::vector<int>(24, 0));
 struct GroundTest : StandinTest {};

@@ -1,4 +1,5 @@
 #include "Game/play.h"
+#include "standin/standin.h"
 
 TEST_F(Play, theFieldIsDrawnBackToFront) {
     game.addWeapon(turretAt(300, 300, 20));

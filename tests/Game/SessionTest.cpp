@@ -1,6 +1,11 @@
 #include "Game/play.h"
+#include "standin/standin.h"
+#include "utility/utility.h"
 
+#include <cmath>
+#include <cstddef>
 #include <fstream>
+#include <string>
 
 constexpr int STEPS = 7500, STRETCH = 500, STEPS_TO_NEXT_FRAME = 7;
 

@@ -1,7 +1,10 @@
 #include "Game/play.h"
+#include "standin/standin.h"
 
 #include <cstdlib>
+#include <functional>
 #include <random>
+#include <utility>
 
 // A player who does anything at any time, in any state. VOREL_SOAK_STEPS asks for a longer life.
 TEST_F(Play, nothingThatAPlayerDoesBreaksTheGame) {

@@ -1,12 +1,13 @@
 #ifndef PLAY_H
 #define PLAY_H
 
-#include "Entity/Beam.h"
+#include "Entity/Weapon.h"
 #include "Game/Game.h"
 #include "sound.h"
 #include "standin/standin.h"
 
 #include <cmath>
+#include <string>
 
 /// A turret as the shop builds it, but for what its shots cost and its jets do.
 inline Weapon turretAt(double x, double y, double waterConsume = 1, double damage = 50) {

@@ -1,9 +1,13 @@
+#include "Vecteur/vecteur.h"
 #include "Vecteur/Vecteur2D.h"
-#include "exception/exceptionTypeDef.h"
+#include "exception/exception.h"
 #include "standin/standin.h"
 
 #include <cmath>
 #include <functional>
+#include <string>
+#include <tuple>
+#include <vector>
 
 static const Vecteur abc{1, 2, 3}, def{4, 5, 6}, two{3, 4};
 

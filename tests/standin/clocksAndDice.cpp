@@ -4,6 +4,7 @@
 #include "standin/standin.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <ctime>
 
 std::chrono::system_clock::time_point std::chrono::system_clock::now() noexcept {

@@ -3,6 +3,15 @@
 // What is drawn is written down. No pixel is ever set; those read back are the last texture's.
 
 #include "standin/standin.h"
+#include "utility/utility.h"
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <cstddef>
+#include <math.h>
+#include <string>
+#include <vector>
 
 namespace {
 

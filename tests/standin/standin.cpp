@@ -1,6 +1,9 @@
 #include "standin/standin.h"
 
+#include <algorithm>
 #include <fstream>
+#include <iterator>
+#include <string>
 
 Lines linesStarting(const std::string& start, const Lines& lines) {
     Lines found;

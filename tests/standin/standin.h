@@ -13,6 +13,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What stand-ins write down is text, a line for each thing that happened.
