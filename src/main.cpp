@@ -1,8 +1,8 @@
 #include "Game/Game.h"
 #include "Vecteur/Vecteur2D.h"
+#include "audio.h"
 #include "drawing.h"
 #include "sdlglutils.h"
-#include "sound.h"
 
 #include <SDL.h>
 #include <SDL_mixer.h>

@@ -1,5 +1,4 @@
-#include "sound.h"
-
+#include "audio.h"
 #include "standin/standin.h"
 
 #include <fstream>

@@ -19,9 +19,9 @@
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
 #include "Vecteur/Vecteur2D.h"
+#include "audio.h"
 #include "drawing.h"
 #include "sdlglutils.h"
-#include "sound.h"
 
 #include <SDL.h>
 #include <SDL_mixer.h>

@@ -37,7 +37,7 @@ public:
     void onCollideEnnemi(Ennemi* entity) override;
     void onCollideTower(Tower* tower) override;
 
-    /// The splash; the main loop owns it.
+    /// The splash; audio.cpp loads and frees it.
     static Mix_Chunk* son_splash;
 
 private:

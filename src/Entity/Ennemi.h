@@ -39,7 +39,7 @@ public:
     void onCollideEnnemi(Ennemi* entity) override;
     void onCollideTower(Tower* entity) override;
 
-    /// The sounds of its death; the main loop owns them.
+    /// The sounds of its death; audio.cpp loads and frees them.
     static Mix_Chunk* son_explosion;
     static Mix_Chunk* son_grunt;
 

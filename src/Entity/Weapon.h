@@ -49,7 +49,7 @@ public:
     static constexpr int price = 1000;
     /// The side of its square picture, in cells.
     static constexpr double SIZE_IN_CELLS = 2.0;
-    /// The sounds of a shot and of a turret being built; the main loop owns them.
+    /// The sounds of a shot and of a turret being built; audio.cpp loads and frees them.
     static Mix_Chunk* son_stream;
     static Mix_Chunk* son_construct;
 

@@ -46,7 +46,7 @@ public:
     static constexpr double timeStayRoundMenu = 5.0;
     static constexpr double timeDisapearRoundMenu = 2.0;
 
-    /// The jingles, the title music and the sounds of the pay-out; the main loop owns them.
+    /// The jingles, the title music and the sounds of the pay-out; audio.cpp loads and frees them.
     static Mix_Chunk* son_defeat;
     static Mix_Chunk* son_good_job;
     static Mix_Music* son_start;

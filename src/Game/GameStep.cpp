@@ -27,14 +27,6 @@ constexpr int STEPS_BETWEEN_COINS = 20;
 constexpr double LEAST_PURE_WATER = 1.0;
 constexpr double TIME_OF_GRACE = 1.0;
 
-
-void playJingle(Mix_Chunk* son) {
-    constexpr int JINGLE_CHANNEL = 8;
-    constexpr int JINGLE_VOLUME = 50;
-    Mix_Volume(JINGLE_CHANNEL, JINGLE_VOLUME);
-    playSound(son, JINGLE_CHANNEL);
-}
-
 } // namespace
 
 

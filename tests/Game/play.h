@@ -3,7 +3,7 @@
 
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
-#include "sound.h"
+#include "audio.h"
 #include "standin/standin.h"
 
 #include <cmath>
