@@ -8,14 +8,39 @@
 #include <SDL.h>
 
 #include <array>
+#include <cstddef>
 #include <cstdio>
 #include <fstream>
 #include <initializer_list>
+#include <istream>
 
 namespace {
 
 constexpr int CHANNELS = 10;
 constexpr int FOR_EVER = -1;
+
+// Moves behind an ID3 tag if there is one. Its size is in four bytes of seven bits each.
+void skipTag(std::istream& file) {
+    constexpr int SIZE_BEGINS = 6;
+    std::array<unsigned char, 10> header{};
+    file.read(reinterpret_cast<char*>(header.data()), header.size());
+    const bool tag = file && header[0] == 'I' && header[1] == 'D' && header[2] == '3';
+    std::streamoff size = 0;
+    for (std::size_t i = SIZE_BEGINS; i < header.size(); ++i)
+        size = size << 7 | (header[i] & 0x7F);
+    file.clear();
+    file.seekg(tag ? static_cast<std::streamoff>(header.size()) + size : 0);
+}
+
+
+// Whether a frame of MPEG-1 or MPEG-2 layer III comes next: eleven bits set, then the version, where a third zero would
+// be MPEG-2.5, then the layer.
+bool beginsFrame(std::istream& file) {
+    constexpr unsigned char MASK = 0xF6;
+    constexpr unsigned char LAYER_III = 0xF2;
+    return file.get() == 0xFF && (file.get() & MASK) == LAYER_III;
+}
+
 
 Mix_Chunk* loadSound(const char* path) { return Mix_LoadWAV_RW(SDL_RWFromFile(path, "rb"), 1); }
 
@@ -40,15 +65,14 @@ void setEffectsVolume() {
 
 
 // The mixer refuses a missing file and takes an empty one for a track, both without harm; but noise can crash its MP3
-// decoder, and the game with it. A track begins with a tag or with a frame of MPEG-1 or MPEG-2 layer III. What follows
-// such a beginning is not looked at: noise there still reaches the decoder.
+// decoder, and at the low rates of MPEG-2.5 the mixer runs past its buffer. So a track has to begin with a frame of
+// MPEG-1 or MPEG-2, at once or behind a tag. What follows that beginning is not looked at: noise there still reaches
+// the decoder.
 Mix_Music* loadMusic(const char* path) {
-    std::array<unsigned char, 2> start{};
     std::ifstream file(path, std::ios::binary);
-    file.read(reinterpret_cast<char*>(start.data()), start.size());
-    const bool tag = start[0] == 'I' && start[1] == 'D';
-    const bool frame = start[0] == 0xFF && (start[1] & 0xF6) == 0xF2;
-    return file && !tag && !frame ? nullptr : Mix_LoadMUS(path);
+    const bool empty = file.peek() == std::ifstream::traits_type::eof();
+    skipTag(file);
+    return empty || beginsFrame(file) ? Mix_LoadMUS(path) : nullptr;
 }
 
 

@@ -12,7 +12,8 @@ void openAudio();
 /// Sets the volume of every channel to that of the effects. A jingle changes its own channel's later.
 void setEffectsVolume();
 
-/// Loads a track of MP3 music, which the caller frees with Mix_FreeMusic. Null if it can't be loaded.
+/// Loads a track of MP3 music, which the caller frees with Mix_FreeMusic. Null if it can't be loaded, or if it is
+/// MPEG-2.5 (a sampling rate of 8, 11.025 or 12 kHz), which the mixer can't play without harm.
 Mix_Music* loadMusic(const char* path);
 
 /// Loads all sounds that classes keep a static pointer to, and the title music. What can't be loaded is null, and so

@@ -10,9 +10,12 @@ struct Sound : StandinTest {};
 
 
 TEST_F(Sound, loadMusicRefusesWhatCannotBeginATrack) {
-    const std::pair<const char*, bool> starts[] = {
-        {"ID3 tag", true}, {"\xFF\xFB of MPEG-1", true}, {"\xFF\xF2 of MPEG-2", true}, {"\xFF\xFD of layer II", false},
-        {"IX tag", false}, {"\x90\xFB, no frame", false}};
+    // The tag is 129 bytes long, behind its ten.
+    const std::string tag = std::string("ID3\3\0\0\0\0\1\1", 10) + std::string(129, 'x');
+    const std::pair<std::string, bool> starts[] = {
+        {"\xFF\xFB of MPEG-1", true},    {"\xFF\xF2 of MPEG-2", true},          {"\xFF\xE3 of MPEG-2.5", false},
+        {"\xFF\xFD of layer II", false}, {"\x90\xFB, no frame", false},         {"IX tag", false},
+        {tag + "\xFF\xFB", true},        {tag + "\xFF\xE3 of MPEG-2.5", false}, {tag, false}};
     const std::string file = testing::TempDir() + "track.mp3";
     for (const auto& [start, loaded] : starts) {
         std::ofstream(file, std::ios::binary) << start;
