@@ -2,6 +2,7 @@
 #include "Vecteur/Vecteur2D.h"
 #include "audio.h"
 #include "drawing.h"
+#include "pace.h"
 #include "sdlglutils.h"
 
 #include <SDL.h>
@@ -26,8 +27,6 @@ struct Loop {
     bool clic = false; // the left button is held to fire
     int coord_souris_x = 0;
     int coord_souris_y = 0;
-    Uint32 tempsActuel = SDL_GetTicks();
-    Uint32 dernierTemps = SDL_GetTicks();
     bool gameStart = false; // a key has left the title screen in this frame
 };
 
@@ -126,17 +125,6 @@ void drawPause(GLuint texture_pause) {
     drawTexturedQuad(texture_pause, (tailleEcranX - SIDE) / 2, (tailleEcranY - SIDE) / 2, SIDE, SIDE);
 }
 
-
-// Waits until `dt` milliseconds have passed since the previous frame was shown. That frame's own wait counts towards
-// this one, so light frames alternate between a whole wait and none, and the game runs faster than the clock.
-void pace(double dt, Loop& loop) {
-    loop.tempsActuel = SDL_GetTicks();
-    const Uint32 elapsed = loop.tempsActuel - loop.dernierTemps;
-    if (elapsed < dt)
-        SDL_Delay(static_cast<Uint32>(dt) - elapsed);
-    loop.dernierTemps = loop.tempsActuel;
-}
-
 } // namespace
 
 
@@ -160,6 +148,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         setEffectsVolume();
 
         Loop loop{game, musique_tundrix};
+        Pace pace;
         const GLuint texture_pause = loadTexture("Assets/img/PauseButton_64.png", true);
 
         while (loop.continuer) {
@@ -181,7 +170,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
             glFlush();
             SDL_GL_SwapBuffers();
 
-            pace(dt, loop);
+            pace.wait(dt);
         }
 
         freeSounds();

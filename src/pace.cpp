@@ -1,0 +1,14 @@
+#include "pace.h"
+
+// The clock is read twice, in this order: what the first frame is measured from is read last, next to where the loop
+// begins.
+Pace::Pace() : tempsActuel(SDL_GetTicks()), dernierTemps(SDL_GetTicks()) {}
+
+
+void Pace::wait(double dt) {
+    tempsActuel = SDL_GetTicks();
+    const Uint32 elapsed = tempsActuel - dernierTemps;
+    if (elapsed < dt)
+        SDL_Delay(static_cast<Uint32>(dt) - elapsed);
+    dernierTemps = tempsActuel; // from before the wait
+}
