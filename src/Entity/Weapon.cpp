@@ -36,13 +36,6 @@ Weapon::Weapon(const Vecteur2D& vect, const std::string& /*path*/, const double&
       cooldownStatue(0.0), beamLength(beamLength), beamSpeed(beamSpeed) {}
 
 
-Weapon::Weapon(const Weapon& w)
-    : Entity(w.getPos(), w.isSolide(), w.getIsActivate(), w.getCollideBoxWidth(), w.getCollideBoxHeigth()),
-      m_texture(w.m_texture), waterConsume(w.waterConsume), radius(w.radius), beamRadius(w.beamRadius),
-      damage(w.damage), beamWidth(w.beamWidth), shotCoolldowmnTime(w.shotCoolldowmnTime),
-      cooldownStatue(w.cooldownStatue), beamLength(w.beamLength), beamSpeed(w.beamSpeed) {}
-
-
 Weapon::~Weapon() { deletePointerInVector(beams); }
 
 

@@ -22,7 +22,7 @@ public:
            const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
            const double& beamWidth, const double& beamSpeed);
     /// A turret like `w`, with its rest to wait, but without jets: those stay with `w`.
-    Weapon(const Weapon& w);
+    Weapon(const Weapon& w) = default;
     Weapon& operator=(const Weapon& w) = delete;
     ~Weapon() override;
     Weapon* copy() const override;
@@ -54,6 +54,13 @@ public:
     static Mix_Chunk* son_construct;
 
 private:
+    /// Jets that are one turret's own: a copy has none.
+    struct Jets : std::vector<Beam*> {
+        Jets() = default;
+        Jets(const Jets& /*others*/) : Jets() {}
+        Jets& operator=(const Jets&) = delete;
+    };
+
     GLuint m_texture;
     double waterConsume;
     double radius;
@@ -61,7 +68,7 @@ private:
     double damage;
     const double beamWidth;
     double shotCoolldowmnTime;
-    std::vector<Beam*> beams;
+    Jets beams;
     double cooldownStatue;
     double beamLength;
     double beamSpeed;
