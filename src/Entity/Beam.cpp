@@ -64,11 +64,11 @@ void Beam::draw(const double& /*dt*/) const {
     if (!getIsActive())
         return;
 
-    const double x = getX();
-    const double y = getY();
-    constexpr double JET_IN_CELLS = 0.3;
-    constexpr double w = JET_IN_CELLS * Game::largeur_case;
-    constexpr double h = JET_IN_CELLS * Game::hauteur_case;
+    const double x = getPosition()[0];
+    const double y = getPosition()[1];
+    constexpr double t = 0.3; // the side of the square picture, in cells
+    constexpr double tx = Game::largeur_case;
+    constexpr double ty = Game::hauteur_case;
 
     // The picture points to the right; turn it to the direction of flight.
     glPushMatrix();
@@ -81,9 +81,9 @@ void Beam::draw(const double& /*dt*/) const {
         // The splash is larger than the jet, and its row of the sheet is the lower one.
         constexpr double f = 4.0;
         const double cx = static_cast<double>(sprite) / EXPLOSION_FRAMES;
-        drawTexturedQuad(m_explosion, x, y, f * w, f * h, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});
+        drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});
     } else {
-        drawTexturedQuad(m_texture, x, y, w, h);
+        drawTexturedQuad(m_texture, x, y, t * tx, t * ty);
     }
 
     glColor4d(1, 1, 1, 1);

@@ -81,10 +81,11 @@ void Ennemi::setPolution(double newPolution) { polution = newPolution; }
 
 
 void Ennemi::update(const double& dt, const Game& game) {
-    // Plain numbers here: those who are gone walk on unseen, and late in a game there are thousands of them.
-    const Tower& tower = game.getTower();
-    const double dx = tower.getX() - getX();
-    const double dy = tower.getY() - getY();
+    // Nothing here allocates: grunts who are gone walk on unseen, and late in a game there are thousands of them.
+    const Vecteur2D& pos = getPosition();
+    const Vecteur2D& goal = game.getTower().getPosition();
+    const double dx = goal[0] - pos[0];
+    const double dy = goal[1] - pos[1];
 
     // Nothing stops a grunt, not even its own explosion; the collision with the tower takes it away.
     const double d = std::sqrt(dx * dx + dy * dy);
@@ -100,7 +101,7 @@ void Ennemi::update(const double& dt, const Game& game) {
     if (explose && advanceExplosion(dt, e_delta_temps, e_sprite))
         isActivate = false;
 
-    face(tower.getX() - getX(), tower.getY() - getY());
+    face(goal[0] - pos[0], goal[1] - pos[1]);
 }
 
 
@@ -121,10 +122,12 @@ void Ennemi::draw(const double& /*dt*/) const {
     if (!isActivate)
         return;
 
-    const double x = getX();
-    const double y = getY();
-    const double tx = Game::largeur_case;
-    const double ty = Game::hauteur_case;
+    const Vecteur2D& pos = getPosition();
+    const double x = pos[0];
+    const double y = pos[1];
+    constexpr double t = 1.0; // the side of a walking grunt's square picture, in cells
+    constexpr double tx = Game::largeur_case;
+    constexpr double ty = Game::hauteur_case;
 
     glPushMatrix();
     if (!explose) {
@@ -134,18 +137,18 @@ void Ennemi::draw(const double& /*dt*/) const {
         constexpr double TOP_MARGIN = 0.003;
         const double cx = static_cast<double>(n_sprite) / WALK_FRAMES;
         const double r = 1 - static_cast<double>(direction) / FACINGS;
-        glTranslated(-tx / 2, -ty / 2, 0);
-        drawTexturedQuad(m_texture, x, y, tx, ty,
+        glTranslated(-t * tx / 2, -t * ty / 2, 0);
+        drawTexturedQuad(m_texture, x, y, t * tx, t * ty,
                          {cx + SIDE_MARGIN, r - 1.0 / FACINGS + BOTTOM_MARGIN, cx + 1.0 / WALK_FRAMES - SIDE_MARGIN,
                           r - TOP_MARGIN});
     } else {
         // The explosion's row of its sheet is the upper one. A glitch cuts the sheet of walking grunts in the same way,
         // and is no larger than a grunt.
-        constexpr double EXPLOSION_IN_CELLS = 3.0;
-        const double f = glitch ? 1.0 : EXPLOSION_IN_CELLS;
+        constexpr double EXPLOSION_ENLARGED = 3.0;
+        const double f = glitch ? 1.0 : EXPLOSION_ENLARGED;
         const double cx = static_cast<double>(e_sprite) / EXPLOSION_FRAMES;
-        glTranslated(-f * tx / 2, -f * ty / 2, 0);
-        drawTexturedQuad(glitch ? m_texture : m_explosion, x, y, f * tx, f * ty,
+        glTranslated(-f * t * tx / 2, -f * t * ty / 2, 0);
+        drawTexturedQuad(glitch ? m_texture : m_explosion, x, y, f * t * tx, f * t * ty,
                          {cx, 0.5, cx + 1.0 / EXPLOSION_FRAMES, 1.0});
     }
     glColor4d(1, 1, 1, 1);

@@ -61,7 +61,8 @@ void Entity::setIsSolide(bool solide) { _isSolide = solide; }
 
 
 bool Entity::isColliding(Entity& entity) const {
-    return canCollide() && entity.canCollide() && discsTouch(getDisc(), entity.getDisc());
+    return isSolide() && entity.isSolide() && &entity != this && isActivate && entity.getIsActivate() &&
+           discsTouch(getDisc(), entity.getDisc());
 }
 
 

@@ -46,9 +46,8 @@ public:
     Vecteur2D getPos() const;
     Vecteur2D& getPos();
     void setPosition(const Vecteur2D& vect);
-    /// Its components, for those who ask in every step or frame: a copied position has storage of its own.
-    double getX() const { return position[0]; }
-    double getY() const { return position[1]; }
+    /// The position itself, for those who ask in every step or frame: a copy allocates.
+    const Vecteur2D& getPosition() const { return position; }
 
     /// The distance to a point in pixels.
     double distanceTo(const Vecteur2D& point) const;
@@ -65,20 +64,19 @@ public:
 
     /// Takes part in the collisions of this step: solid and in play.
     bool canCollide() const { return isSolide() && getIsActivate(); }
-    /// What a pair is judged by: the centre and the radius in pixels, and whose disc it is. Plain numbers, for a step
-    /// judges every pair of objects.
+    /// What a pair is judged by: the centre and the radius in pixels. A step judges every pair of objects, so this
+    /// allocates nothing.
     struct Disc {
         double x, y, radius;
-        const Entity* entity;
     };
-    Disc getDisc() const { return {getX(), getY(), collideBoxWidth, this}; }
-    /// The discs of two objects overlap; touching at one point only does not count, nor does an object touch itself.
+    Disc getDisc() const { return {position[0], position[1], collideBoxWidth}; }
+    /// The discs of two objects overlap; touching at one point only does not count.
     static bool discsTouch(const Disc& one, const Disc& other) {
         const double dx = other.x - one.x;
         const double dy = other.y - one.y;
-        return one.radius + other.radius > std::sqrt(dx * dx + dy * dy) && one.entity != other.entity;
+        return one.radius + other.radius > std::sqrt(dx * dx + dy * dy);
     }
-    /// Both take part in collisions, and their discs touch.
+    /// Two different objects that both take part in collisions, and whose discs touch.
     bool isColliding(Entity& entity) const;
 
 private:

@@ -69,26 +69,27 @@ void Tower::update(const double& /*dt*/, const Game& /*game*/) {}
 
 
 void Tower::draw(const double& /*dt*/) const {
-    const int x = static_cast<int>(getX());
-    const int y = static_cast<int>(getY());
-    constexpr double SIZE_IN_CELLS = 4.0;
-    constexpr double w = SIZE_IN_CELLS * Game::largeur_case;
-    constexpr double h = SIZE_IN_CELLS * Game::hauteur_case;
+    const Vecteur2D& pos = getPosition();
+    const int x = static_cast<int>(pos[0]);
+    const int y = static_cast<int>(pos[1]);
+    constexpr double tx = Game::largeur_case;
+    constexpr double ty = Game::hauteur_case;
+    constexpr double t = 4.0; // the side of the square pictures, in cells
 
     glPushMatrix();
-    glTranslated(-w / 2, -h / 2, 0);
+    glTranslated(-t * tx / 2, -t * ty / 2, 0);
     glColor4d(1, 1, 1, 1);
-    drawTexturedQuad(m_texture_fond, x, y, w, h);
+    drawTexturedQuad(m_texture_fond, x, y, t * tx, t * ty);
 
     // The water is squeezed towards this height above the sprite's bottom, and reddens with its pollution.
     constexpr double posy = 62.0;
     const double factor = m_water / m_capacity;
     const double decallage = (1 - factor) * posy;
     glColor4d(1, 1 - getRatio(), 1 - getRatio(), 1);
-    drawTexturedQuad(m_texture_eau, x, y + decallage, w, factor * h);
+    drawTexturedQuad(m_texture_eau, x, y + decallage, t * tx, factor * t * ty);
 
     glColor4d(1, 1, 1, 1);
-    drawTexturedQuad(m_texture_devant, x, y, w, h);
+    drawTexturedQuad(m_texture_devant, x, y, t * tx, t * ty);
     glPopMatrix();
 }
 

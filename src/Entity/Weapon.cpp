@@ -94,14 +94,16 @@ void Weapon::update(const double& time, const Game& game) {
 
 
 void Weapon::draw(const double& time) const {
-    const double x = getX();
-    const double y = getY();
-    constexpr double w = SIZE_IN_CELLS * Game::largeur_case;
-    constexpr double h = SIZE_IN_CELLS * Game::hauteur_case;
+    const Vecteur2D& pos = getPosition();
+    const double x = pos[0];
+    const double y = pos[1];
+    constexpr double t = SIZE_IN_CELLS;
+    constexpr double tx = Game::largeur_case;
+    constexpr double ty = Game::hauteur_case;
 
     glPushMatrix();
-    glTranslated(-w / 2, -h / 2, 0);
-    drawTexturedQuad(m_texture, x, y, w, h);
+    glTranslated(-t * tx / 2, -t * ty / 2, 0);
+    drawTexturedQuad(m_texture, x, y, t * tx, t * ty);
     glPopMatrix();
 
     for (const Beam* beam : beams)

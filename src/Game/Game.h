@@ -139,6 +139,10 @@ private:
     void drainWater();
     void payOut();
 
+    /// The last digit of the money counter, in pixels.
+    static constexpr double MONEY_X = 964.0;
+    static constexpr double MONEY_Y = 698.0;
+
     void drawGauge() const;
     void drawMoney(int amount) const;
     void drawWavePanel() const;
@@ -183,8 +187,8 @@ private:
     double timeLoos;
     bool continueToPlay;
 
-    // Who can be in a pair, their discs in the same order, and the pairs found. They are valid only while
-    // collisions are resolved; as members they keep their memory from step to step.
+    // Who can be in a pair, their discs in the same order, and the pairs found. Empty but while collisions are
+    // resolved, so no pointer outlives its object; as members they keep their memory from step to step.
     std::vector<Entity*> entitys;
     std::vector<Entity::Disc> discs;
     std::vector<Duo<Entity*, Entity*>> encounters;

@@ -53,15 +53,13 @@ void Game::afficherArgentGain(const double& /*dt*/) const { drawMoney(static_cas
 
 
 void Game::drawMoney(int amount) const {
-    // The place of the last digit; the dollar sign's square picture is as high as the digits.
-    constexpr double X = 964.0;
-    constexpr double Y = 698.0;
+    // The dollar sign's square picture is as high as the digits.
     constexpr int DIGITS = 6;
     constexpr double f = 2.4; // how much smaller than its picture a digit is
     constexpr double w = DIGIT_WIDTH / f;
     constexpr double h = DIGIT_HEIGHT / f;
     glPushMatrix();
-    glTranslated(X, Y, 0);
+    glTranslated(MONEY_X, MONEY_Y, 0);
     drawDigits(m_texture_argent, amount, DIGITS, w, h);
     drawTexturedQuad(m_texture_dollar, -(DIGITS + 1) * w, 0, h, h);
     glPopMatrix();

@@ -7,6 +7,7 @@
 
 #include <SDL_opengl.h>
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -19,10 +20,10 @@ constexpr double yPosChart = 376.0;
 constexpr double xSkinDiff = 20.0;
 constexpr double ySkinDiff = 5.0;
 
-// The money earned, moved from the counter's place into the panel, then enlarged.
+// The last digit of the money earned, in the panel.
+constexpr double GAIN_X = 588.0;
+constexpr double GAIN_Y = 296.0;
 constexpr double GAIN_ENLARGED = 2.0;
-constexpr double GAIN_MOVED_X = -670.0;
-constexpr double GAIN_MOVED_Y = -550.0;
 
 // The banner of a defeat, a band across the window.
 constexpr double BANNER_Y = 256.0;
@@ -65,19 +66,18 @@ void Game::draw(const double& dt, const double& x, const double& y) const {
     m_tower.draw(dt);
     m_waves[currentWave].draw(dt);
 
-    const int mouseX = static_cast<int>(x);
-    const int mouseY = static_cast<int>(y);
+    const std::array<double, 2> mousePos{x, y}; // a vector would allocate in every frame
     if (tourelleActivite())
-        dessinerTourelleGrisee(mouseX, mouseY);
+        dessinerTourelleGrisee(static_cast<int>(x), static_cast<int>(y));
 
     constexpr double waeponRadiusForMouse = 40.0;
-    for (Weapon* w : weapons) {
+    for (const Weapon* w : weapons) {
         w->draw(dt);
-        if (w->distanceTo(x, y) < waeponRadiusForMouse && isPlaying())
-            openglDrawCircle(w->getX(), w->getY(), w->getRadius(), DISC_SEGMENTS);
+        if (w->distanceTo(mousePos[0], mousePos[1]) < waeponRadiusForMouse && isPlaying())
+            openglDrawCircle(w->getPosition(), w->getRadius(), DISC_SEGMENTS);
     }
 
-    drawGUI(dt, mouseX, mouseY);
+    drawGUI(dt, static_cast<int>(x), static_cast<int>(y));
 
     if (hasLoos())
         drawLoosScreen();
@@ -120,7 +120,7 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
 
     glPushMatrix();
     glScaled(GAIN_ENLARGED, GAIN_ENLARGED, 1);
-    glTranslated(GAIN_MOVED_X, GAIN_MOVED_Y, 0);
+    glTranslated(GAIN_X / GAIN_ENLARGED - MONEY_X, GAIN_Y / GAIN_ENLARGED - MONEY_Y, 0); // from the counter's place
     afficherArgentGain(dt);
     glPopMatrix();
 

@@ -63,8 +63,9 @@ void Game::poserTourelle(const int& x, const int& y) {
 
 
 void Game::dessinerTourelleGrisee(const int& x, const int& y) const {
-    constexpr double w = Weapon::SIZE_IN_CELLS * largeur_case;
-    constexpr double h = Weapon::SIZE_IN_CELLS * hauteur_case;
+    constexpr double t = Weapon::SIZE_IN_CELLS;
+    constexpr double w = t * largeur_case;
+    constexpr double h = t * hauteur_case;
     const double cx = snappedX(x) - w / 2;
     const double cy = snappedY(y) - h / 2;
     constexpr double PREVIEW_ALPHA = 0.4;

@@ -80,10 +80,6 @@ void Game::releaseEnnemis() {
 
 
 void Game::resolveCollisions() {
-    entitys.clear();
-    discs.clear();
-    encounters.clear();
-
     // In the order in which encounters count.
     const auto add = [this](Entity* entity) {
         if (!entity->canCollide())
@@ -104,12 +100,16 @@ void Game::resolveCollisions() {
     for (size_t i = 0; i < discs.size(); ++i) {
         const Entity::Disc one = discs[i];
         for (size_t j = 0; j < discs.size(); ++j)
-            if (Entity::discsTouch(one, discs[j]))
+            if (i != j && Entity::discsTouch(one, discs[j]))
                 encounters.emplace_back(entitys[i], entitys[j]);
     }
 
     for (const auto& encounter : encounters)
         encounter.getFirst()->collide(encounter.getSecond());
+
+    entitys.clear();
+    discs.clear();
+    encounters.clear();
 }
 
 
