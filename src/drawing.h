@@ -4,19 +4,22 @@
 #include <SDL_opengl.h>
 
 // What every screen is drawn with: textured quads, digits, and the frame that they stand in.
+//
+// All of it leaves texturing disabled and texture 0 bound, and the colour and the matrices as they were. prepareFrame
+// alone sets matrices and blending.
 
 /// A part of a texture, in texture coordinates from 0 to 1.
 struct TextureArea {
     double left, bottom, right, top;
 };
-constexpr TextureArea WHOLE_TEXTURE{0.0, 0.0, 1.0, 1.0};
+inline constexpr TextureArea WHOLE_TEXTURE{0.0, 0.0, 1.0, 1.0};
 
-/// An open batch of vertices with one texture, from its construction to the end of its scope, which leaves texturing
-/// disabled and texture 0 bound. In between OpenGL takes colours, texture coordinates and vertices only.
+/// An open batch of vertices with one texture, from its construction to the end of its scope: one without a name would
+/// end at once. In between OpenGL takes colours, texture coordinates and vertices only.
 class TexturedBatch {
 public:
     /// `mode` says what the vertices form, as glBegin wants it.
-    TexturedBatch(GLuint texture, GLenum mode);
+    [[nodiscard]] TexturedBatch(GLuint texture, GLenum mode);
     TexturedBatch(const TexturedBatch&) = delete;
     TexturedBatch& operator=(const TexturedBatch&) = delete;
     ~TexturedBatch();
@@ -30,16 +33,16 @@ void prepareFrame(int width, int height);
 void drawTexturedQuad(GLuint texture, double x, double y, double w, double h, const TextureArea& area = WHOLE_TEXTURE);
 
 /// The size of a digit in the game's picture of digits, in pixels.
-constexpr double DIGIT_WIDTH = 32.0;
-constexpr double DIGIT_HEIGHT = 64.0;
+inline constexpr double DIGIT_WIDTH = 32.0;
+inline constexpr double DIGIT_HEIGHT = 64.0;
 
 /// Draws the last `count` digits of `number`, which must not be negative, in the current colour. The units stand with
 /// their lower-left corner at the origin, the other digits to their left, each `w` x `h` pixels. The texture holds the
 /// digits 0 to 9 side by side.
 void drawDigits(GLuint texture, int number, int count, double w, double h);
 
-/// Emits the corners of one quad into an open batch of quads, lower left, upper left, upper right, lower right: the
-/// other way round than drawTexturedQuad.
+/// Emits the corners of one quad into an open batch of quads, lower left, upper left, upper right, lower right: in
+/// the opposite direction to drawTexturedQuad.
 void clockwiseQuadVertices(double x, double y, double w, double h, const TextureArea& area = WHOLE_TEXTURE);
 
 #endif

@@ -4,7 +4,7 @@
 #include "Vecteur/Vecteur2D.h"
 
 /// How finely the game draws the discs of its turrets' ranges.
-constexpr unsigned int DISC_SEGMENTS = 40;
+inline constexpr unsigned int DISC_SEGMENTS = 40;
 
 /// Draws the translucent red disc that shows a turret's range: centre and `radius` in pixels, `pressison`
 /// segments. Texturing must be disabled; the colour is opaque white afterwards.

@@ -60,16 +60,16 @@ char mark(const Ground& tab_sol, int x, int y) {
 
 
 int plainCellTile(const Ground& tab_sol, int x, int y) {
-    // The side neighbours: right, above, left, below; and the corners between them.
+    // The side neighbours: right, above, left, below; and the diagonal ones.
     const std::string code{mark(tab_sol, x + 1, y), mark(tab_sol, x, y + 1), mark(tab_sol, x - 1, y),
                            mark(tab_sol, x, y - 1)};
     const std::string coins{mark(tab_sol, x + 1, y + 1), mark(tab_sol, x - 1, y + 1), mark(tab_sol, x - 1, y - 1),
                             mark(tab_sol, x + 1, y - 1)};
 
-    // The first rule whose corner is a patch and whose sides match gives the tile.
-    enum Corner { UPPER_RIGHT, UPPER_LEFT, LOWER_LEFT, LOWER_RIGHT, WHATEVER };
+    // The first rule whose diagonal neighbour is a patch and whose sides match gives the tile.
+    enum Diagonal { UPPER_RIGHT, UPPER_LEFT, LOWER_LEFT, LOWER_RIGHT, WHATEVER };
     constexpr struct {
-        Corner corner;
+        Diagonal diagonal;
         const char* code;
         int tile;
     } RULES[] = {
@@ -80,7 +80,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
         {LOWER_LEFT, "0011", 15}, {LOWER_RIGHT, "1001", 17},
     };
     for (const auto& rule : RULES)
-        if (code == rule.code && (rule.corner == WHATEVER || coins[rule.corner] == '1'))
+        if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
     return PLAIN_TILE;
 }
