@@ -2,25 +2,27 @@
 //
 //     vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]      in the folder that holds Assets/
 //
-// The scene goes on for so many seconds, or until it is closed; its last frame is kept in the picture. Each number for
-// the ground gives another one, always the same. At the end the work for one frame is printed. Scenes, N being a
-// number:
+// The scene goes on for that many seconds, or until it is closed; its last frame is kept in the picture. Each number
+// for the ground gives another one, always the same, and grunts enter at the same places every time. At the end the
+// work for one frame is printed. Scenes, N being a number:
 //
 //     title       the title screen
-//     busy        ten turrets fire at the twenty grunts that are on the field and at forty more that follow
+//     busy        ten turrets fire at the two dozen grunts on the field and at the three dozen that follow
 //     waveN       ten turrets at work 24 seconds after the beginning of wave N
 //     waterN      N units of water are left
 //     pollutionN  grunts have walked in until N units were polluted
 //     roundendN   wave N, from 2 to 4, undefended and just before its end: the last of its grunts is still on its way
 //     defeat      the moment before the last grunt spoils the water
 //     preview     a turret is about to be bought
-//     playN       six turrets, and the grunts of wave N close to them; the mouse buys, places and fires
+//     film        plays itself, as fast as it can: a turret is bought and placed, the grunts of wave 3 burst, and the
+//                 wave is paid out, all in 15 seconds; PICTURE.bmp is a folder that keeps every third frame
 
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
 #include "Vecteur/Vecteur2D.h"
 #include "audio.h"
 #include "drawing.h"
+#include "pace.h"
 #include "sdlglutils.h"
 
 #include <SDL.h>
@@ -34,6 +36,7 @@
 #include <cstdlib>
 #include <ratio>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -42,15 +45,28 @@ constexpr int WIDTH = 1024;
 constexpr int HEIGHT = 768;
 constexpr double STEP = 0.02; // seconds
 
+// When the pointer of the film does what, in steps.
+constexpr int SHOP_CLICKED = 50;
+constexpr int TURRET_PLACED = 100;
+constexpr int FIRST_VOLLEY = 140;
+constexpr int LAST_VOLLEY = 390;
+constexpr int STEPS_BETWEEN_VOLLEYS = 50;
+constexpr int STEPS_BETWEEN_PICTURES = 3;
+
+const Vecteur2D TOWER(512, 352);
+
+/// What chooses where the next grunt enters. It goes on when it is read, so that no two enter at one place.
+std::chrono::nanoseconds entranceClock{};
+
 /// What goes on in front of the window: where the mouse is, and whether its button is held.
 struct Player {
     Vecteur2D mouse{512, 160};
     bool fires = false;
-    bool isReal = false; ///< Someone holds the mouse; otherwise it goes its round by itself.
+    std::vector<std::pair<int, Vecteur2D>> way; ///< Of the film: in which step the pointer arrives where.
 };
 
 
-/// Goes on for so many seconds, in long steps and without sound.
+/// Goes on for some seconds, in long steps and without sound.
 void pass(Game& game, double seconds) {
     constexpr double LONG_STEP = 0.1;
     for (double passed = 0; passed < seconds; passed += LONG_STEP)
@@ -65,7 +81,7 @@ void jumpToWave(Game& game, int number) {
 }
 
 
-/// The first so many of ten turrets like the shop's. Those that need no water hold out for minutes.
+/// The first `count` of ten turrets like the shop's. Those that need no water hold out for minutes.
 void placeTurrets(Game& game, int count = 10, double waterPerShot = 0) {
     constexpr int PLACES[10][2] = {{416, 448}, {608, 448}, {416, 256}, {608, 256}, {512, 512},
                                    {512, 192}, {320, 352}, {704, 352}, {288, 512}, {736, 192}};
@@ -83,11 +99,61 @@ void takeWater(Game& game, double units) {
 }
 
 
-/// Lets grunts walk in until so much water is polluted.
+/// Lets grunts walk in until that much water is polluted.
 void pollute(Game& game, double units) {
     jumpToWave(game, 20);
     while (game.getTower().getPollution() < units)
         pass(game, 0.1);
+}
+
+
+/// Wave 3 close to six turrets, and the way of the pointer.
+void setUpFilm(Game& game, Player& player) {
+    player.way = {{0, {700, 470}}, {SHOP_CLICKED, {992, 595}}, {TURRET_PLACED, {712, 490}}};
+    for (int volley = FIRST_VOLLEY; volley <= LAST_VOLLEY; volley += STEPS_BETWEEN_VOLLEYS) {
+        // Each grunt has walked as far when its volley meets it, for they enter as often as turrets fire.
+        constexpr double WALKED = 403;
+        const Vecteur2D entrance = game.spawnEnnemi();
+        player.way.emplace_back(volley, entrance + WALKED * Vecteur2D(TOWER - entrance).normalise());
+    }
+    player.way.emplace_back(LAST_VOLLEY + 35, Vecteur2D(700, 90));
+    entranceClock = {};
+    placeTurrets(game, 6, 0.5);
+    jumpToWave(game, 3);
+    pass(game, 37);
+}
+
+
+/// Moves the pointer as a hand does, slowly at first and at last, and clicks or fires.
+void film(Game& game, Player& player, int step) {
+    constexpr double STEPS_OF_A_MOVE = 25;
+    for (const auto& [arrival, place] : player.way) {
+        const double share = std::clamp(1 - (arrival - step) / STEPS_OF_A_MOVE, 0.0, 1.0);
+        player.mouse = player.mouse + share * share * (3 - 2 * share) * (place - player.mouse);
+    }
+    if (step == SHOP_CLICKED)
+        game.activeTourelle();
+    if (step == TURRET_PLACED) {
+        game.poserTourelle(static_cast<int>(player.mouse[0]), static_cast<int>(player.mouse[1]));
+        game.desactiveTourelle();
+    }
+    player.fires = step >= FIRST_VOLLEY && step <= LAST_VOLLEY;
+}
+
+
+/// A white arrow with a black rim, whose tip is at a place.
+void drawPointer(const Vecteur2D& tip) {
+    constexpr double CORNERS[][2] = {{0, 0}, {0, -25}, {6, -19}, {12, -31}, {17, -29}, {11, -17}, {19, -17}};
+    constexpr double MIDDLE[] = {6, -15};
+    for (const double white : {0.0, 1.0}) {
+        glColor4d(white, white, white, 1);
+        glBegin(GL_TRIANGLE_FAN);
+        for (const auto& corner : CORNERS)
+            glVertex2d(tip[0] + corner[0] + 0.3 * white * (MIDDLE[0] - corner[0]),
+                       tip[1] + corner[1] + 0.3 * white * (MIDDLE[1] - corner[1]));
+        glEnd();
+    }
+    glColor4d(1, 1, 1, 1);
 }
 
 
@@ -103,11 +169,8 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
         jumpToWave(game, name == "busy" ? 21 : number);
         pass(game, 24);
         player.fires = true;
-    } else if (name == "play") {
-        placeTurrets(game, 6, 0.5);
-        jumpToWave(game, number);
-        pass(game, 33);
-        player.isReal = true;
+    } else if (name == "film") {
+        setUpFilm(game, player);
     } else if (name == "water") {
         takeWater(game, 100 - number);
     } else if (name == "pollution") {
@@ -128,82 +191,64 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
 
 
 /// One step and one frame of the game.
-void play(Game& game, Player& player, double time) {
+void showStep(Game& game, Player& player, int step) {
     // The mouse goes once around the tower in twenty seconds.
-    if (player.fires && !player.isReal)
-        player.mouse = {512 + 260 * std::cos(time * 0.314), 352 + 200 * std::sin(time * 0.314)};
+    const double angle = step * STEP * 0.314;
+    if (!player.way.empty())
+        film(game, player, step);
+    else if (player.fires)
+        player.mouse = {TOWER[0] + 260 * std::cos(angle), TOWER[1] + 200 * std::sin(angle)};
     if (player.fires)
         game.shoot(player.mouse);
     game.update(STEP);
     prepareFrame(WIDTH, HEIGHT);
     game.draw(1000 * STEP, player.mouse[0], player.mouse[1]);
+    if (!player.way.empty())
+        drawPointer(player.mouse);
     glFlush();
 }
 
 
-/// What a press of the left button does where the mouse is.
-void press(Game& game, Player& player) {
-    const int x = static_cast<int>(player.mouse[0]);
-    const int y = static_cast<int>(player.mouse[1]);
-    if (game.aCliqueTourelle(x, y)) {
-        game.activeTourelle();
-    } else if (game.tourelleActivite()) {
-        game.poserTourelle(x, y);
-        game.desactiveTourelle();
-    } else {
-        player.fires = true;
-    }
-}
-
-
-/// Takes what was done to the window, and says whether it was closed.
-bool isClosed(Game& game, Player& player) {
+/// Whether the window was closed, or Escape pressed.
+bool isClosed() {
     SDL_Event event;
     bool closed = false;
-    while (SDL_PollEvent(&event) != 0) {
+    while (SDL_PollEvent(&event) != 0)
         closed = closed || event.type == SDL_QUIT || (event.type == SDL_KEYDOWN && event.key.keysym.sym == SDLK_ESCAPE);
-        if (!player.isReal)
-            continue;
-        if (event.type == SDL_MOUSEMOTION)
-            player.mouse = Vecteur2D(event.motion.x, HEIGHT - event.motion.y);
-        else if (event.type == SDL_MOUSEBUTTONDOWN)
-            press(game, player);
-        else if (event.type == SDL_MOUSEBUTTONUP)
-            player.fires = false;
-    }
     return closed;
 }
 
 
-/// Waits until the step's time has passed since the previous frame was shown, and answers when this one was: the game's
-/// own pace.
-Uint32 waitFor(Uint32 previous) {
-    constexpr auto STEP_MILLISECONDS = static_cast<Uint32>(1000 * STEP);
-    const Uint32 now = SDL_GetTicks();
-    if (now - previous < STEP_MILLISECONDS)
-        SDL_Delay(STEP_MILLISECONDS - (now - previous));
-    return now;
-}
-
-
 /// The milliseconds of work that each frame took.
-std::vector<double> run(Game& game, Player& player, double seconds, const char* picture) {
+std::vector<double> run(Game& game, Player& player, int steps, const std::string& picture) {
     using Clock = std::chrono::steady_clock;
+    const bool isFilm = !player.way.empty();
     std::vector<double> work;
-    Uint32 shown = SDL_GetTicks();
-    for (double time = 0; time <= seconds && !isClosed(game, player); time += STEP) {
+    Pace pace;
+    for (int step = 0; step < steps && !isClosed(); ++step) {
         const auto start = Clock::now();
-        play(game, player, time);
-        if (picture != nullptr && time + STEP > seconds)
-            takeScreenshot(picture);
+        showStep(game, player, step);
+        if (isFilm && step % STEPS_BETWEEN_PICTURES == 0)
+            takeScreenshot((picture + "/" + std::to_string(step / STEPS_BETWEEN_PICTURES) + ".bmp").c_str());
+        else if (!isFilm && !picture.empty() && step == steps - 1)
+            takeScreenshot(picture.c_str());
         SDL_GL_SwapBuffers();
         work.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-        shown = waitFor(shown);
+        if (!isFilm)
+            pace.wait(1000 * STEP);
     }
     return work;
 }
 
 } // namespace
+
+
+#ifndef __EMSCRIPTEN__ // whose library can't be given another clock
+std::chrono::system_clock::time_point std::chrono::system_clock::now() noexcept {
+    entranceClock += std::chrono::milliseconds(3514);
+    return time_point(entranceClock);
+}
+#endif
 
 
 int main(int argc, char** argv) {
@@ -228,7 +273,8 @@ int main(int argc, char** argv) {
     if (!game.getIsInTitleScreen())
         startGameMusic(loadMusic("Assets/music/Tundrix_Dubstep_RMX_v1.mp3"));
 
-    std::vector<double> work = run(game, player, argc > 2 ? std::atof(argv[2]) : 1e9, argc > 3 ? argv[3] : nullptr);
+    const double seconds = argc > 2 ? std::atof(argv[2]) : 1e7;
+    std::vector<double> work = run(game, player, static_cast<int>(seconds / STEP) + 1, argc > 3 ? argv[3] : "");
     std::sort(work.begin(), work.end());
     std::printf("%s: %zu frames, work per frame: median %.2f ms, maximum %.2f ms\n", argv[1], work.size(),
                 work[work.size() / 2], work.back());
