@@ -17,7 +17,6 @@ Vecteur::Vecteur() = default;
 Vecteur::Vecteur(std::vector<double> coordsPara) : coords(std::move(coordsPara)) {}
 
 
-// A count that is negative or not a number leaves the vector empty.
 Vecteur::Vecteur(double size, double value) : coords(size >= 1.0 ? static_cast<size_t>(size) : 0, value) {}
 
 

@@ -16,7 +16,8 @@ public:
     /// A vector without components.
     Vecteur();
     Vecteur(std::vector<double> coordsPara);
-    /// `size` components (truncated to a whole count, which must not be negative), each equal to `value`.
+    /// `size` components, truncated to a whole count, each equal to `value`; none if `size` is negative or not a
+    /// number.
     Vecteur(double size, double value);
     Vecteur(const std::initializer_list<double>& liste);
     Vecteur(const Vecteur& vect) = default;
