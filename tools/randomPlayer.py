@@ -1,10 +1,13 @@
 #!/usr/bin/python3
-"""Plays the real program at random, with keys, clicks, wheel and motion, but never Escape; then closes its window.
+"""Plays at random, with keys, clicks, wheel and motion, but never Escape.
 
-    randomPlayer.py PROGRAM SECONDS [SEED]
+    randomPlayer.py PROGRAM SECONDS [SEED]    the real program, whose window is closed at the end
+    randomPlayer.py PAGE SECONDS [SEED]       the game in a browser; PAGE is the folder that web/build made
 
-Prints the resident memory, in kilobytes, some ten times on the way.
+Prints twenty times on the way how many bytes are held, and fails if that grows once the first tenth is over, or if the
+browser complains.
 """
+import os
 import pathlib
 import random
 import subprocess
@@ -13,35 +16,83 @@ import time
 
 from window import Window
 
+# Keeps the memory of the game, whose size nothing else tells, and counts the frames.
+MEMORY = """
+window.drawn = 0;
+const request = window.requestAnimationFrame;
+window.requestAnimationFrame = next => request(time => {
+  ++window.drawn;
+  next(time);
+});
+const instantiate = WebAssembly.instantiate;
+WebAssembly.instantiate = async (...given) => {
+  const made = await instantiate.apply(WebAssembly, given);
+  window.memory = Object.values((made.instance || made).exports).find(part => part instanceof WebAssembly.Memory);
+  return made;
+};
+"""
 
-def deed():
-    """A few words for xdotool: one thing that a hand on a keyboard and a mouse may do."""
+
+def action():
+    """One thing that a hand on a keyboard and a mouse may do, as arguments of xdotool. A browser needs its own keys, as F1,
+    for itself."""
     place = ["mousemove", str(random.randrange(1024)), str(random.randrange(768))]
     return random.choice([
-        ["key", random.choice(["space", "r", "a", "Return", "F1", "Left"])],
+        ["key", random.choice(["space", "r", "a", "Return", "F2", "Left"])],
         [*place, "click", random.choice("111112345")],
         ["mousemove", "992", "168", "click", "1", *place, "click", "1"],  # buys a turret, or tries to
         [*place, random.choice(["mousedown", "mouseup"]), "1"],
     ])
 
 
-def resident(process):
-    """The memory that a process holds, in kilobytes."""
-    status = pathlib.Path(f"/proc/{process.pid}/status").read_text()
-    return int(status.split("VmRSS:")[1].split()[0])
+def keep_acting(seconds, held, **allowed):
+    """`held` answers with the bytes that are held, a figure for each name in `allowed`, by which factor it may grow."""
+    figures = []
+    for _ in range(20):
+        end = time.monotonic() + float(seconds) / 20
+        while time.monotonic() < end:
+            subprocess.run(["xdotool", *action()], check=True)
+        figures.append(held())
+        print(*figures[-1], flush=True)
+    for (name, factor), course in zip(allowed.items(), zip(*figures[2:])):
+        if sum(course[-5:]) > factor * sum(course[:5]):
+            sys.exit(f"What the {name} holds grows.")
 
 
-def main(program, seconds, seed="1"):
-    random.seed(seed)
+def in_window(program, seconds):
     with Window(program, SDL_AUDIODRIVER="dummy") as window:
+        def held():
+            status = pathlib.Path(f"/proc/{window.program.pid}/status").read_text()
+            return [1024 * int(status.split("VmRSS:")[1].split()[0])]
         window.until("a window", lambda picture: window.windows()[1])
-        for _ in range(10):
-            end = time.monotonic() + float(seconds) / 10
-            while time.monotonic() < end:
-                subprocess.run(["xdotool", *deed()], check=True)
-            print(resident(window.program), flush=True)
+        keep_acting(seconds, held, program=1.1)
         window.close()
         window.ended()
+
+
+def in_browser(page, seconds):
+    sys.path.append("web")
+    from browser import Browser, Server  # needs more packages than a player of the program has
+    with Server(page) as server, Browser() as browser:
+        def held():
+            if browser.value("document.hidden || !document.getElementById('front').hidden"):
+                sys.exit("The game is not seen any more.")
+            browser.call("HeapProfiler.collectGarbage")
+            print(browser.value("drawn"), "frames:", end=" ")
+            return browser.call("Runtime.getHeapUsage")["usedSize"], browser.value("memory.buffer.byteLength")
+        browser.call("Page.addScriptToEvaluateOnNewDocument", source=MEMORY)
+        browser.open(server.address)
+        browser.start()
+        browser.wait_for("the game", lambda: browser.value("Boolean(window.memory)"))
+        keep_acting(seconds, held, page=1.1, game=1)
+        if browser.complaints:
+            sys.exit("The browser complained:\n" + "\n".join(browser.complaints))
+
+
+def main(game, seconds, seed="1"):
+    random.seed(seed)
+    (in_browser if os.path.isdir(game) else in_window)(game, seconds)
+    print("Nothing grows.")
 
 
 if __name__ == "__main__":
