@@ -5,7 +5,7 @@
 
 // What the program does once with the mixer, the sounds and the music. Whoever plays a sound needs sound.h only.
 
-/// Opens the audio device and makes the mixer's channels. Without a device it prints why, without an end of line, and
+/// Opens the audio device and makes the mixer's channels. Without a device it prints why, without a line end, and
 /// everything after it is silent.
 void openAudio();
 

@@ -4,7 +4,7 @@ namespace {
 
 // The four corners of a quad in the usual order: lower left, lower right, upper right, upper left. The order decides
 // how a quad is cut into triangles, and so how the colours of a few of its pixels are rounded. The ground and the wave
-// panel are drawn the other way round; with one order for all, single pixels of them would change.
+// panel are drawn in the opposite direction; with one order for all, single pixels of them would change.
 void quadVertices(double x, double y, double w, double h, const TextureArea& area) {
     glTexCoord2d(area.left, area.bottom);
     glVertex2d(x, y);

@@ -46,6 +46,7 @@ void onKeyDown(SDLKey key, Loop& loop) {
         // The key press that leaves the title screen never pauses.
         loop.pause = !loop.pause && !game.getIsInTitleScreen() && !loop.gameStart;
     } else if (key == SDLK_r) {
+        // Fixed: on the title R starts the game and restarts it at once, so the title stays and the game's music plays.
         game.restart();
         loop.pause = false;
     } else if (key == SDLK_ESCAPE) {
@@ -55,7 +56,8 @@ void onKeyDown(SDLKey key, Loop& loop) {
 
 
 // A click on the turret button selects a turret or lets go of it; with a turret selected a click is one
-// attempt to place it; any other click begins to fire.
+// attempt to place it; any other click begins to fire. Fixed: the shop sells while the game is paused, between waves
+// and after a defeat too.
 void clickField(Loop& loop) {
     Game& game = loop.game;
     if (game.aCliqueTourelle(loop.coord_souris_x, loop.coord_souris_y)) {
@@ -74,6 +76,7 @@ void clickField(Loop& loop) {
 
 void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     Game& game = loop.game;
+    // Fixed: any button, and a turn of the wheel; and a left click that leaves the title is a click on the field too.
     if (game.getIsInTitleScreen()) {
         startGameMusic(loop.musique_tundrix);
         game.setIsInTitleScreen(false);
@@ -81,12 +84,13 @@ void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     if (button.button != SDL_BUTTON_LEFT)
         return;
 
-    // Counted from ten seconds more than the phase has, so a click is taken at any moment of it.
+    // Fixed: counted from ten seconds more than the phase has, so a click is taken at any moment of it.
     constexpr double CLICK_CLOCK = 25.0;
     if (game.getIsInBetwenWave() && !game.isContinueToPlay() &&
         CLICK_CLOCK - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)
         game.setContinueToPlay(true);
 
+    // Fixed: while the button is held for firing, another press of it does no more.
     if (!loop.clic) {
         loop.coord_souris_x = button.x;
         loop.coord_souris_y = upwards(button.y);
@@ -110,7 +114,7 @@ void onEvent(const SDL_Event& event, Loop& loop) {
     case SDL_MOUSEBUTTONDOWN:
         onMouseButtonDown(event.button, loop);
         break;
-    case SDL_MOUSEBUTTONUP:
+    case SDL_MOUSEBUTTONUP: // Fixed: of any button, the wheel too.
         loop.clic = false;
         break;
     default:
@@ -136,6 +140,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         constexpr double STEP_SECONDS = 0.02;
         constexpr int BITS_PER_PIXEL = 32;
 
+        // Fixed: neither SDL nor the window is asked whether it worked.
         SDL_Init(SDL_INIT_VIDEO);
         SDL_WM_SetCaption("Vorel Defense INC.", nullptr);
         openAudio();
@@ -173,11 +178,13 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
             pace.wait(dt);
         }
 
+        // Fixed: the game itself goes after SDL, with this block.
         freeSounds();
         Mix_FreeMusic(musique_tundrix);
         Mix_CloseAudio();
         SDL_Quit();
     } catch (...) {
+        // Fixed: no more than this word, status 0, and what was opened is left to the system.
         std::cout << "error" << std::endl;
     }
     return 0;

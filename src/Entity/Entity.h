@@ -16,8 +16,8 @@ class Tower;
 /// the first then tells the second what it is (collide), and the second answers (onCollide...).
 class Entity {
 public:
-    /// At `position` (pixels). `collideBoxWidth` is the radius of the collision disc in pixels;
-    /// `collideBoxHeigth` is only reported.
+    /// At `position` (pixels). Fixed: `collideBoxWidth` is the radius of the collision disc in
+    /// pixels, and `collideBoxHeigth` is only reported.
     Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate, double collideBoxWidth,
            double collideBoxHeigth);
     Entity(const Entity& entity) = default;
@@ -53,7 +53,9 @@ public:
     double distanceTo(const Vecteur2D& point) const;
     double distanceTo(double x, double y) const;
 
-    /// The column and row of the cell that the position lies in.
+    // Fixed: the game has no caller of these, of isColliding, nor of copy but a turret's; other code may.
+
+    /// The column and row of the cell that the position lies in, with the fraction cut off: -31 is in cell 0.
     Vecteur2D getPosCase() const;
     /// Moves to the lower-left corner of the cell with the column and row `vect`.
     void setPositionCase(const Vecteur2D& vect);

@@ -24,7 +24,8 @@ public:
 
     /// There is that much pure water.
     bool canRemoveWater(const double& water) const;
-    /// Takes water out, down to an empty tank. Ask canRemoveWater first: pollution stays in the tank.
+    /// Takes water out, down to an empty tank. Fixed: pollution stays in the tank and may then be more than the water,
+    /// so ask canRemoveWater first.
     void removeWater(const double& water);
     /// Fills water in, up to the capacity.
     void refil(const double& water);

@@ -49,6 +49,7 @@ bool Weapon::shoot(Vecteur2D pos, Tower& tower) {
 
     cooldownStatue = shotCoolldowmnTime;
     tower.removeWater(waterConsume);
+    // Fixed: a jet aimed at its own turret stands there until a grunt bursts it.
     const Vecteur2D direction(pos - getPos());
     beams.push_back(new Beam(beamWidth, beamSpeed, beamRadius, getPos(), damage, beamLength, direction));
     playSound(son_stream);

@@ -16,8 +16,8 @@ class Weapon : public Entity {
 public:
     /// Centred on `vect`. A shot takes `waterConsume` units of water and is followed by `shotCoolldowmnTime`
     /// seconds of rest; a target may be `radius` pixels away. `beamRadius` (range), `beamLength` and
-    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health go to the jets. `path` is
-    /// for turrets with a picture of their own; so far all look alike.
+    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health go to the jets. Fixed: `path`
+    /// is not used; all turrets look alike.
     Weapon(const Vecteur2D& vect, const std::string& path, const double& waterConsume, const double& radius,
            const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
            const double& beamWidth, const double& beamSpeed);
@@ -33,6 +33,7 @@ public:
     /// The jets in flight, none of them null.
     const std::vector<Beam*>& getBeams() const;
     double getRadius() const;
+    // Fixed: the game has no caller of these three; other code may.
     double getBeamRadius() const;
     double getWaterConsume() const;
     double getDamage() const;

@@ -19,8 +19,8 @@ constexpr int START_MONEY = 2000;
 constexpr double TOWER_X = 512.0;
 constexpr double TOWER_Y = 352.0;
 
-// Every wave is made of the same grunt, which enters this often: so many of it in the first one, and in each later one
-// so many times the number of the waves before it.
+// Every wave is made of the same grunt, which enters this often: one grunt in the first wave, then three times the
+// number of earlier waves.
 constexpr double SECONDS_BETWEEN_GRUNTS = 1.0;
 constexpr double GRUNT_HEALTH = 100.0;
 constexpr double GRUNT_SPEED = 10.0;
@@ -148,8 +148,8 @@ int Game::getLargeurCase() const { return static_cast<int>(largeur_case); }
 int Game::getHauteurCase() const { return static_cast<int>(hauteur_case); }
 
 
-// A fresh generator each time, seeded with the clock's low 32 bits: grunts released at one reading of the clock enter
-// at one place.
+// Fixed: a fresh generator each time, seeded with the clock's low 32 bits, so grunts released at one reading of the
+// clock enter at one place.
 Vecteur2D Game::spawnEnnemi() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     const auto seed = static_cast<unsigned int>(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
@@ -157,7 +157,7 @@ Vecteur2D Game::spawnEnnemi() {
     std::uniform_real_distribution<double> dis(0.0, 2 * width + 2 * heigth);
     const double positionOnPerimeter = dis(RNG);
 
-    // The side edges take `width` units of the perimeter and the others `heigth`: grunts may enter above the
+    // Fixed: the side edges take `width` units of the perimeter and the others `heigth`: grunts may enter above the
     // window's top at its sides, and never above or below its rightmost part.
     constexpr double OUTSIDE = 30.0;
     Vecteur2D pos;

@@ -65,8 +65,9 @@ public:
 
     /// Appends wave 0.
     void init();
-    /// A fresh game on the title screen. What stays: the ground, the count of waves that a `Wave` has its number from,
-    /// the steps counted towards the next coin sound, and the seconds before the next wave, until a wave ends anew.
+    /// A fresh game on the title screen. Fixed: what stays is the ground, the count of waves that a `Wave` has its
+    /// number from, the steps counted towards the next coin sound, and the seconds before the next wave, until a wave
+    /// ends anew.
     void restart();
 
     // What state it is in.
@@ -83,6 +84,7 @@ public:
     bool isContinueToPlay() const;
     void setContinueToPlay(bool continuePlaying);
     const Tower& getTower() const;
+    // Fixed: the game has no caller of these four, nor of addWeapon with a pointer; other code may.
     int getLargeur() const;
     int getHauteur() const;
     int getLargeurCase() const;

@@ -10,13 +10,14 @@
 
 namespace {
 
-// Where a group of patches may have its centre: so many cells from a corner of the map.
+// Where a group of patches may have its centre: some cells from a corner of the map.
 struct Origin {
     int column, row;
     int stepX, spreadX;
     int stepY, spreadY;
 };
 
+// Fixed: on the right and above, a group may begin beyond the map.
 constexpr Origin ORIGINS[] = {
     {0, 0, 1, 10, 1, 8},
     {Game::largeur, 0, -1, 8, 1, 6},
@@ -82,6 +83,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     for (const auto& rule : RULES)
         if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
+    // Fixed: between patches on opposite sides too, and on three.
     return PLAIN_TILE;
 }
 

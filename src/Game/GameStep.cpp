@@ -41,6 +41,7 @@ void Game::update(const double& dt) {
     if (isInBetwenWave)
         updateBetwenWave(dt);
 
+    // Fixed: defeat comes first, so a wave whose last grunt spoils the water is lost, not cleared.
     if (m_tower.getPureWaterLeft() < LEAST_PURE_WATER && !isInBetwenWave && time > TIME_OF_GRACE && !loos) {
         loos = true;
         playJingle(son_defeat);
@@ -55,6 +56,7 @@ void Game::update(const double& dt) {
         timeBeforeNextWave = TIME_BETTWENN_WAVE;
     }
 
+    // Fixed: the time on the title counts, so the grunts due by then enter together when it is left.
     if (hasLoos())
         timeLoos += dt;
     else
@@ -144,7 +146,7 @@ void Game::drainWater() {
         return;
 
     argentGain += diffWater * argentParWater;
-    temps_son += 1;
+    temps_son += 1; // Fixed: goes on from wave to wave, and over a restart.
     if (temps_son > STEPS_BETWEEN_COINS) {
         playSound(son_coinsound);
         playSound(son_pourwater);
@@ -157,6 +159,7 @@ void Game::drainWater() {
 void Game::payOut() {
     finalWaterLeft = true;
     argentGain += m_tower.getPureWaterLeft() * argentParWater;
+    // Fixed: the fraction is dropped, and the tank keeps what was paid for last.
     argent = static_cast<int>(argent + argentGain);
     playSound(son_cashregister);
 }

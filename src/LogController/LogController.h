@@ -43,11 +43,11 @@ public:
     }
 
 private:
-    /// The time of day as "HH:MM:SS", always one hour ahead of UTC.
+    /// The time of day as "HH:MM:SS". Fixed: always one hour ahead of UTC.
     static std::string timeStamp();
 
     std::string additionalString;
-    // Constant, so that nothing but log() writes to it.
+    // Fixed: constant, so that nothing but log() writes to it.
     const std::ostream& outStream;
 };
 

@@ -4,7 +4,8 @@
 #include "LogController/LogController.h"
 #include "LogController/LogControllerError.h"
 
-// The console's loggers, one of each for the whole program.
+// The console's loggers, one of each for the whole program. Fixed: the game uses the first only, and that through
+// Exception::consolErr; other code may use them all.
 
 /// Errors, on standard error.
 extern const LogControllerError logErrorConsol;

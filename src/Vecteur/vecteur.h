@@ -10,7 +10,8 @@
 
 /// A vector of doubles of any dimension, zero included. Operations that build a new vector return a plain
 /// Vecteur, whatever their operands are. An operation that needs equal dimensions raises an Exception of the
-/// kind VECTEUR_SIZE_INCORRECT without them, and changes nothing.
+/// kind VECTEUR_SIZE_INCORRECT without them, and changes nothing. Fixed: most of it has no caller in the game; other
+/// code may call it.
 class Vecteur {
 public:
     /// A vector without components.
@@ -85,7 +86,7 @@ private:
     std::vector<double> coords;
 };
 
-// The results are constant on purpose: nobody means to assign to a sum.
+// Fixed: the results are constant; nobody means to assign to a sum.
 
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2);
 const Vecteur operator-(Vecteur vect1, const Vecteur& vect2);
@@ -97,13 +98,13 @@ const Vecteur operator*(const Vecteur& vect, const double& scal);
 /// Multiplies by 1 / `scal`, which is not checked: dividing by zero gives infinities.
 const Vecteur operator/(const Vecteur& vect, const double& scal);
 
-// Constant as the others are; on plain numbers it has no effect, which a compiler may remark on.
+// Constant as the others are; on a double and a bool it has no effect, which a compiler may remark on.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wignored-qualifiers"
 
 /// The dot product.
 const double operator*(const Vecteur& vect1, const Vecteur& vect2);
-/// Raises VECTEUR_SIZE_INCORRECT, rather than answering no, for vectors of different dimensions.
+/// Fixed: raises VECTEUR_SIZE_INCORRECT, rather than answering no, for vectors of different dimensions.
 const bool operator==(const Vecteur& vect1, const Vecteur& vect2);
 const bool operator!=(const Vecteur& vect1, const Vecteur& vect2);
 

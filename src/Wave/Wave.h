@@ -32,7 +32,8 @@ public:
     std::vector<Ennemi>& getEnnemisInGame();
     /// Seconds between two releases.
     double getTimeDiffBetwenSpawn() const;
-    /// The number of waves that were built before this one, whichever game they belonged to.
+    /// The number of waves that were built before this one, whichever game they belonged to. Fixed: it has no caller in
+    /// the game; other code may call it.
     int getId() const;
     /// All of the roster has been released and nobody of it is still in play.
     bool isFinish() const;

@@ -16,6 +16,7 @@ public:
     Type2& getSecond() { return t2; }
     const Type2& getSecond() const { return t2; }
 
+    // Fixed: the game has no caller of these two; other code may.
     void setFirst(const Type1& first) { t1 = first; }
     void setSecond(const Type2& second) { t2 = second; }
 
