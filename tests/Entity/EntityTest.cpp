@@ -1,19 +1,8 @@
-#include "Entity/Entity.h"
-#include "Entity/Beam.h"
-#include "Entity/Ennemi.h"
-#include "Entity/Tower.h"
-#include "Entity/Weapon.h"
-#include "Game/play.h"
-#include "Wave/Wave.h"
-#include "standin/standin.h"
-
-#include <cstddef>
-#include <string>
-#include <tuple>
+#include "Game/GameTest.h"
 
 /// One object of each class, as the game builds them. `tower` stands where the game's own does, but is another: grunts
 /// walk to the game's, and the turret, at (100, 100) like the jet, drinks from this one.
-struct Combat : Play {
+struct Combat : GameTest {
     Tower tower{{512, 352}};
     Beam jet{10, 80, 300, {100, 100}, 50, 10, {0, 7}};
     Ennemi grunt{{100, 352}, 100, 10, 10, 20, 20, "grunt"};
@@ -25,7 +14,7 @@ struct Combat : Play {
             entity.update(0.02, game);
     }
 
-    static Lines picture(const Entity& entity) {
+    static Lines drawnBy(const Entity& entity) {
         screen.drawn.clear();
         entity.draw(20);
         return screen.drawn;
@@ -64,7 +53,7 @@ TEST_F(Combat, theTowerKeepsItsWaterWithinTheTank) {
 
 
 TEST_F(Combat, aJetFliesToTheEndOfItsRangeAndVanishes) {
-    EXPECT_EQ(picture(jet), Lines{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6 100.4,100"}) << "upwards";
+    EXPECT_EQ(drawnBy(jet), Lines{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6 100.4,100"}) << "upwards";
     Beam exact(10, 15000, 300, {100, 100}, 50, 10, {1, 0});
     update(exact, 1);
     EXPECT_TRUE(exact.isSolide()) << "300 pixels are within a range of 300";
@@ -77,9 +66,9 @@ TEST_F(Combat, aJetBurstsOnceAndStandsAsASplashFor23Frames) {
     const std::string splash = "VorelDefense_explosions_64 110,100 110,138.4 71.6,138.4 71.6,100 part ";
     jet.onCollideEnnemi(&grunt);
     update(jet, 22);
-    EXPECT_EQ(picture(jet), Lines{splash + "0.875,0 1,0 1,0.5 0.875,0.5"});
+    EXPECT_EQ(drawnBy(jet), Lines{splash + "0.875,0 1,0 1,0.5 0.875,0.5"});
     jet.onCollideEnnemi(&grunt);
-    EXPECT_EQ(mixer.played, Lines{"WaterSplash"});
+    EXPECT_EQ(mixer.sounds, Lines{"WaterSplash"});
     update(jet, 1);
     EXPECT_TRUE(jet.isNeedToBeDelete());
 }
@@ -99,7 +88,7 @@ TEST_F(Combat, aGruntFacesTheTower) {
     for (const auto& [x, y, row] : cases) {
         grunt.setPosition({x, y});
         update(grunt, 1);
-        const std::string shown = picture(grunt).at(0);
+        const std::string shown = drawnBy(grunt).at(0);
         EXPECT_EQ(std::stod(shown.substr(shown.find("part ") + 11)), row) << x << " " << y;
     }
 }
@@ -112,11 +101,11 @@ TEST_F(Combat, aGruntWithoutHealthExplodesWalkingAndIsSometimesDrawnWrong) {
     dice.rolls = {80, 81};
     grunt.removeHealth(100);
     update(grunt, 22);
-    EXPECT_EQ(picture(grunt), Lines{"VorelDefense_explosions_64 56.4,304 152.4,304 152.4,400 56.4,400" + last});
+    EXPECT_EQ(drawnBy(grunt), Lines{"VorelDefense_explosions_64 56.4,304 152.4,304 152.4,400 56.4,400" + last});
     grunt.removeHealth(1);
-    EXPECT_EQ(picture(grunt), Lines{"VorelDefense_grunts 88.4,336 120.4,336 120.4,368 88.4,368" + last});
+    EXPECT_EQ(drawnBy(grunt), Lines{"VorelDefense_grunts 88.4,336 120.4,336 120.4,368 88.4,368" + last});
     update(grunt, 1);
-    EXPECT_EQ(picture(grunt), Lines{}) << "23 steps after its death";
+    EXPECT_EQ(drawnBy(grunt), Lines{}) << "23 steps after its death";
 }
 
 

@@ -1,5 +1,4 @@
-#include "Game/Game.h"
-#include "standin/standin.h"
+#include "Game/GameTest.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -70,7 +69,7 @@ TEST_F(GroundTest, drawSolShowsTheTileOfEachCellInItsPlace) {
         const Point place(cell / 24, cell % 24);
         const int tile = tiles[cell / 24][cell % 24];
         const Point upperLeft(tile % 3 / 3.0, 1 - tile / 3 / 6.0);
-        const Corner* corner = &screen.longBatch[4 * cell];
+        const Vertex* corner = &screen.longBatch[4 * cell];
         EXPECT_EQ(corner[0].place, 32.0 * place);
         EXPECT_EQ(corner[2].place, 32.0 * place + Point(32, 32));
         EXPECT_NEAR(std::abs(corner[0].spot - upperLeft - Point(0.01, 0.01 - 1 / 6.0)), 0, 1e-9) << place;

@@ -1,17 +1,16 @@
-#include "Game/play.h"
-#include "standin/standin.h"
+#include "Game/GameTest.h"
 
-TEST_F(Play, theFieldIsDrawnBackToFront) {
+TEST_F(GameTest, theFieldIsDrawnBackToFront) {
     game.addWeapon(turretAt(300, 300, 20));
-    play(51);
+    runSteps(51);
     game.shoot({400, 300});
     game.activeTourelle();
-    expectAsRecorded("field", seen("", 300, 338.9));
+    expectAsRecorded("field", frameLines("", 300, 338.9));
 }
 
 
-TEST_F(Play, theRoundEndPanelShowsPieEarningsAndWave) {
+TEST_F(GameTest, theRoundEndPanelShowsPieEarningsAndWave) {
     // One tenth of the water is polluted: four of the forty slices, then the other thirty-six.
-    play(2512 + 50);
-    expectAsRecorded("roundEnd", seen());
+    runSteps(2512 + 50);
+    expectAsRecorded("roundEnd", frameLines());
 }

@@ -1,6 +1,4 @@
-#include "Game/play.h"
-#include "standin/standin.h"
-#include "utility/utility.h"
+#include "Game/GameTest.h"
 
 #include <cmath>
 #include <cstddef>
@@ -12,15 +10,14 @@ constexpr int STEPS = 7500, STRETCH = 500, STEPS_TO_NEXT_FRAME = 7;
 
 // One whole game, from the first turret to the defeat. The player fires one volley at step 1500, and without end after
 // step 5400, and clicks to go on at steps 1877 and 4600.
-TEST_F(Play, aWholeGameGoesByTheRules) {
-    play(0);
+TEST_F(GameTest, aWholeGameGoesByTheRules) {
+    runSteps(0);
     game.poserTourelle(352, 352);
     game.poserTourelle(352, 416);
     Lines moments; // the steps in which a grunt enters, or something but a shot is heard
     Lines stretches(STEPS / STRETCH);
     for (int step = 1; step <= STEPS; ++step) {
-        clocks.readings = 0;
-        mixer.played.clear();
+        mixer.sounds.clear();
         clocks.nanoseconds = step < 2000 ? LEFT_OF_TOWER : ABOVE_TOWER;
         if (step == 1500 || step > 5400)
             game.shoot({200, 352});
@@ -28,15 +25,15 @@ TEST_F(Play, aWholeGameGoesByTheRules) {
             game.setContinueToPlay(true);
         game.update(0.02);
 
-        std::string moment = clocks.readings > 0 ? " grunt" : "";
-        for (const std::string& sound : mixer.played)
+        std::string moment = newGrunts() > 0 ? " grunt" : "";
+        for (const std::string& sound : mixer.sounds)
             moment += sound == "WaterStream" ? "" : " " + sound;
         if (!moment.empty())
             moments.push_back(toString(step) + moment + ", " + toString(std::lround(pureWater())) + " left");
         if (step % STEPS_TO_NEXT_FRAME == 0) {
             std::string& stretch = stretches[(step - 1) / STRETCH];
             stretch += "step " + toString(step) + "\n";
-            for (const std::string& line : seen("", 352, 390))
+            for (const std::string& line : frameLines("", 352, 390))
                 stretch += line + "\n";
         }
     }
@@ -68,7 +65,7 @@ TEST_F(Play, aWholeGameGoesByTheRules) {
         unsigned long long hash = 14695981039346656037ULL; // FNV-1a
         for (const char letter : stretch)
             hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211ULL;
-        fingerprints.push_back(words("frames to step", STRETCH * (fingerprints.size() + 1), hash));
+        fingerprints.push_back(joined("frames to step", STRETCH * (fingerprints.size() + 1), hash));
     }
     expectAsRecorded("wholeGame", fingerprints);
     for (size_t i = 0; i < stretches.size(); ++i)

@@ -1,5 +1,4 @@
-#include "Game/play.h"
-#include "standin/standin.h"
+#include "Game/GameTest.h"
 
 #include <cstdlib>
 #include <functional>
@@ -7,7 +6,7 @@
 #include <utility>
 
 // A player who does anything at any time, in any state. VOREL_SOAK_STEPS asks for a longer life.
-TEST_F(Play, nothingThatAPlayerDoesBreaksTheGame) {
+TEST_F(GameTest, nothingThatAPlayerDoesBreaksTheGame) {
     std::mt19937 random(20);
     int x = 0, y = 0;
     // Each deed is done once in so many steps.
@@ -17,7 +16,7 @@ TEST_F(Play, nothingThatAPlayerDoesBreaksTheGame) {
         {50, [&] { game.activeTourelle(); }},     {50, [&] { game.poserTourelle(x, y); }},
         {2, [&] { game.desactiveTourelle(); }},   {100, [&] { game.setContinueToPlay(true); }},
         {20, [&] { game.shoot(Vecteur2D(x, y)); }}, {6000, [&] { game.addWeapon(turretAt(x, y, 0)); }},
-        {20, [&] { EXPECT_EQ(testing::PrintToString(seen("", x, y)).find("nan"), std::string::npos); }}};
+        {20, [&] { EXPECT_EQ(testing::PrintToString(frameLines("", x, y)).find("nan"), std::string::npos); }}};
     // clang-format on
     const char* wish = std::getenv("VOREL_SOAK_STEPS");
     for (long step = wish == nullptr ? 20000 : std::atol(wish); step > 0; --step) {

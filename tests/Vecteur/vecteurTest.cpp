@@ -16,14 +16,14 @@ static std::string errorOf(const std::function<void()>& act) {
     try {
         act();
     } catch (const Exception& raised) {
-        return words(raised.getExceptionType().getName(), raised.getExceptionType().getExceptionNumber());
+        return joined(raised.getExceptionType().getName(), raised.getExceptionType().getExceptionNumber());
     }
     return "no error";
 }
 
 // What an operation gives, or raises.
-#define SHOW(operation) words(#operation, "gives", operation)
-#define REFUSE(...) words(#__VA_ARGS__, "raises", errorOf([&] { __VA_ARGS__; }))
+#define SHOW(operation) joined(#operation, "gives", operation)
+#define REFUSE(...) joined(#__VA_ARGS__, "raises", errorOf([&] { __VA_ARGS__; }))
 
 
 TEST(Vecteur, calculatesJoinsSlicesAndPrints) {

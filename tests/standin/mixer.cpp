@@ -32,7 +32,7 @@ int Mix_VolumeMusic(int volume) { return call("music volume", volume); }
 int Mix_Volume(int channel, int volume) { return call("volume", channel, volume); }
 int Mix_PlayChannelTimed(int channel, Mix_Chunk* chunk, int loops, int milliseconds) {
     const std::string how = loops == 0 && milliseconds == -1 ? "" : " repeated or cut";
-    mixer.played.push_back(name(chunk) + (channel == -1 ? "" : words(" on channel", channel)) + how);
+    mixer.sounds.push_back(name(chunk) + (channel == -1 ? "" : joined(" on channel", channel)) + how);
     return 0;
 }
 void Mix_FreeChunk(Mix_Chunk* chunk) { call("free", name(chunk)); }

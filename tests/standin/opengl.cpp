@@ -17,7 +17,7 @@ namespace {
 
 GLenum shape = 0;
 Point spot;
-std::vector<Corner> corners;
+std::vector<Vertex> corners;
 
 
 Point placeOf(double x, double y) { return screen.matrices.back().first * Point(x, y) + screen.matrices.back().second; }
@@ -26,8 +26,8 @@ Point placeOf(double x, double y) { return screen.matrices.back().first * Point(
 std::string text(const Point& point) { return " " + toString(point.real()) + "," + toString(point.imag()); }
 
 
-// One shape of a batch, in the words of Screen::drawn.
-void draw(const Corner* corner, size_t count) {
+// One shape of a batch, as Screen::drawn has it.
+void draw(const Vertex* corner, size_t count) {
     std::string line = screen.texturing ? textures.at(screen.texture).picture : "no texture";
     std::string part;
     for (const size_t i : {size_t{0}, size_t{1}, size_t{2}, count - 1}) {
@@ -53,7 +53,7 @@ void glEnable(GLenum what) {
 void glDisable(GLenum what) { screen.texturing &= what != GL_TEXTURE_2D; }
 void glBindTexture(GLenum, GLuint texture) { screen.texture = texture; }
 void glColor4d(GLdouble r, GLdouble g, GLdouble b, GLdouble a) {
-    const std::string name = words(" colour", r, g, b, a);
+    const std::string name = joined(" colour", r, g, b, a);
     screen.colour = name == " colour 1 1 1 1" ? "" : name;
 }
 void glColor3ub(GLubyte r, GLubyte g, GLubyte b) { glColor4d(r / 255., g / 255., b / 255., 1); }

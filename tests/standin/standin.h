@@ -25,23 +25,23 @@ Lines linesStarting(const std::string& start, const Lines& lines);
 /// What was asked of the window, the mixer and the projection, all in one order: "volume 8 50".
 inline Lines calls;
 
-/// A name and values, with a space before each.
+/// A name and values, with a space before each value.
 template <typename... Values>
-std::string words(const std::string& name, const Values&... values) {
+std::string joined(const std::string& name, const Values&... values) {
     return (name + ... + (" " + toString(values)));
 }
 
 /// Writes a call down. The answer is 0, which says that all went well.
-template <typename... Words>
-int call(const Words&... said) {
-    calls.push_back(words(said...));
+template <typename... Values>
+int call(const std::string& name, const Values&... values) {
+    calls.push_back(joined(name, values...));
     return 0;
 }
 
 using Point = std::complex<double>;
 
 /// Where a corner is in the window, in pixels, and in its picture, from 0 to 1.
-struct Corner {
+struct Vertex {
     Point place, spot;
 };
 
@@ -52,7 +52,7 @@ inline struct Screen {
     /// 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Of other shapes it has the first three corners and the last.
     Lines drawn;
     /// The last batch of more than ten quads; the lines above have only its first.
-    std::vector<Corner> longBatch;
+    std::vector<Vertex> longBatch;
     /// The pixels of the last texture made, row by row from the bottom. The window shows them too.
     std::vector<Uint8> texels;
     std::array<GLint, 4> viewport{3, 5, 1, 2};
@@ -79,8 +79,8 @@ inline std::vector<Texture> textures(1);
 
 /// mixer.cpp
 inline struct Mixer {
-    /// Every sound asked for: "CoinSound" on the first free channel, or "defeat on channel 8".
-    Lines played;
+    /// Every sound asked for: "CoinSound" on the first free channel, or "VorelDefense_GameOver on channel 8".
+    Lines sounds;
     /// The answer to opening the audio device; -1 is a failure.
     int deviceAnswer = 0;
 } mixer;
@@ -113,9 +113,9 @@ inline struct Window {
 constexpr long long LEFT_OF_TOWER = 60911, ABOVE_TOWER = 224874, FAR_RIGHT = 21, BELOW_TOWER = 139199;
 
 inline struct Clocks {
-    /// What time() answers, in seconds, and the system clock. The latter is read only when a grunt enters, so that its
-    /// readings count grunts.
+    /// What time() answers, in seconds, and the system clock.
     long long calendar = 0, nanoseconds = LEFT_OF_TOWER;
+    /// How often the system clock was read. The game reads it once for each grunt that enters.
     int readings = 0;
     /// SDL's clock, which wraps soon, and what the work of a frame adds to it, in milliseconds.
     Uint32 ticks = 0xFFFFFFF0, workOfAFrame = 0;

@@ -1,5 +1,5 @@
-#ifndef PLAY_H
-#define PLAY_H
+#ifndef GAME_TEST_H
+#define GAME_TEST_H
 
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 
 /// A turret as the shop builds it, but for what its shots cost and its jets do.
 inline Weapon turretAt(double x, double y, double waterConsume = 1, double damage = 50) {
@@ -15,29 +16,32 @@ inline Weapon turretAt(double x, double y, double waterConsume = 1, double damag
 }
 
 /// A game on plain ground, and what a player can do in it and see of it. Unless the clock is set, the first grunt
-/// enters in step 51 of play and reaches the tower in step 2512.
-struct Play : StandinTest {
+/// enters in step 51 after the title and reaches the tower in step 2512.
+struct GameTest : StandinTest {
     Game game{1024, 768};
 
-    Play() {
+    GameTest() {
         loadSounds();
         calls.clear();
     }
 
     /// Leaves the title screen, and lets steps of 0.02 seconds pass.
-    void play(int steps) {
+    void runSteps(int steps) {
         game.setIsInTitleScreen(false);
         while (steps-- > 0)
             game.update(0.02);
     }
 
-    /// The lines of a frame that show one picture, or any, with the mouse at (`x`, `y`).
-    Lines seen(const std::string& picture = "", double x = 0, double y = 0) const {
+    /// What a frame shows of one picture, or of all, with the mouse at (`x`, `y`).
+    Lines frameLines(const std::string& picture = "", double x = 0, double y = 0) const {
         screen.drawn.clear();
         game.draw(20, x, y);
         EXPECT_TRUE(screen.isAtRest());
         return linesStarting(picture, screen.drawn);
     }
+
+    /// How many grunts have entered since this was asked last.
+    static int newGrunts() { return std::exchange(clocks.readings, 0); }
 
     double pureWater() const { return game.getTower().getPureWaterLeft(); }
 
