@@ -12,6 +12,7 @@
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,9 +41,24 @@ int call(const std::string& name, const Values&... values) {
 
 using Point = std::complex<double>;
 
-/// Where a corner is in the window, in pixels, and in its picture, from 0 to 1.
+/// Where a corner is in the window, in pixels, how far it is off its plane, where it is in its picture, from 0 to 1,
+/// and its colour.
 struct Vertex {
-    Point place, spot;
+    Point place;
+    double depth;
+    Point spot;
+    std::string colour;
+};
+
+/// What can be saved and restored of OpenGL's state.
+struct Attributes {
+    std::set<GLenum> enabled;
+    GLuint texture = 0;
+    /// Of the next corner: where it is in its picture, and its colour, empty for opaque white.
+    Point spot;
+    std::string colour;
+    bool blendByAlpha = false;
+    GLfloat lineWidth = 1;
 };
 
 /// opengl.cpp
@@ -50,25 +66,30 @@ inline struct Screen {
     /// What was drawn since the last clear, a line for each quad: its picture, its four corners, those of the part of
     /// the picture that it shows unless it is all of it, and the colour unless it is opaque white: "TurretIcon_64
     /// 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Of other shapes it has the first three corners and the last.
+    /// Lines are told with their width: "no texture 0,0 5,0 width 2 smooth blended by alpha lit colour 1 0 0 1".
     Lines drawn;
     /// The last batch of more than ten quads; the lines above have only its first.
     std::vector<Vertex> longBatch;
     /// The pixels of the last texture made, row by row from the bottom. The window shows them too.
     std::vector<Uint8> texels;
+    /// Its left and lower edge, its width and its height.
     std::array<GLint, 4> viewport{3, 5, 1, 2};
-    /// The state of OpenGL; an empty colour is opaque white.
-    bool texturing = false;
-    GLuint texture = 0;
-    std::string colour;
+    Attributes state;
+    /// What was pushed: the groups of attributes, and the state at that time.
+    std::vector<std::pair<GLbitfield, Attributes>> pushed;
     /// A matrix draws a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
     std::vector<std::pair<Point, Point>> matrices{{1, 0}};
 
+    bool has(GLenum ability) const { return state.enabled.count(ability) != 0; }
     /// The state in which every drawing routine must leave it.
-    bool isAtRest() const { return !texturing && texture == 0 && colour.empty() && matrices.size() == 1; }
+    bool isAtRest() const {
+        return !has(GL_TEXTURE_2D) && state.texture == 0 && state.colour.empty() && pushed.empty() &&
+               matrices.size() == 1;
+    }
 } screen;
 
 struct Texture {
-    /// The file opened last before it was made, without folder and ending.
+    /// The file opened last before it was made, without folder and ending; with a remark if it has no mipmaps.
     std::string picture;
     /// How its pixels came, and the filters for a smaller and a larger picture.
     std::string upload;
@@ -103,6 +124,9 @@ inline Deed release(Uint8 button) { return mouse(SDL_MOUSEBUTTONUP, {}, button);
 Deed click(Place place, Uint8 button = SDL_BUTTON_LEFT);
 
 inline struct Window {
+    /// The full-screen modes with OpenGL, as SDL lists them, and whether one can be set.
+    SDL_Rect** modes = nullptr;
+    bool opens = true;
     /// What is to come. When it is over, asking for another event raises an exception.
     std::deque<SDL_Event> session;
     std::function<void()> onFrame = [] {};
