@@ -4,8 +4,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <string>
-#include <vector>
 
 using Bytes = std::vector<Uint8>;
 
@@ -14,12 +12,10 @@ struct Pictures : StandinTest {};
 
 TEST_F(Pictures, loadTextureSetsThemUprightAndFiltersThem) {
     files.picture = {{1, 2, 3, 4}, {5, 6, 7, 8}};
-    for (const bool mipmaps : {true, false}) {
-        const Texture texture = textures.at(loadTexture("a.png", mipmaps));
+    for (const auto& [mipmaps, smaller] : {std::pair(" mipmaps", GL_LINEAR_MIPMAP_LINEAR), {"", GL_LINEAR}}) {
+        const Texture texture = textures.at(loadTexture("a.png", *mipmaps != 0));
         EXPECT_EQ(screen.texels, (Bytes{5, 6, 7, 8, 1, 2, 3, 4})) << "row by row from the bottom, with their own alpha";
-        EXPECT_EQ(texture.upload, mipmaps ? "4 RGBA mipmaps" : "4 RGBA");
-        EXPECT_EQ(texture.smaller, mipmaps ? GL_LINEAR_MIPMAP_LINEAR : GL_LINEAR);
-        EXPECT_EQ(texture.larger, GL_LINEAR);
+        EXPECT_EQ(texture.made, joined("4 RGBA" + std::string(mipmaps) + " smaller", smaller, "larger", GL_LINEAR));
     }
     EXPECT_EQ(loadTexture("nowhere.png", true), 0U);
 }
@@ -66,28 +62,17 @@ TEST_F(Pictures, drawAxisDrawsThreeColouredLinesWhateverWasEnabled) {
     glEnable(GL_TEXTURE_2D);
     glEnable(GL_LIGHTING);
     drawAxis(5);
-    const std::string style = " width 2 smooth blended by alpha colour ";
-    EXPECT_EQ(screen.drawn, (Lines{"no texture 0,0 5,0" + style + "1 0 0 1", "no texture 0,0 0,5" + style + "0 1 0 1",
-                                   "no texture 0,0 0,0,1" + style + "0 0 1 1"}));
+    expectAsRecorded("axes", screen.drawn);
 }
 
 
 TEST_F(Pictures, drawAxisLeavesOpenGLAsItWas) {
-    const auto drawLine = [] {
-        glBegin(GL_LINES);
-        glVertex3i(0, 0, 0);
-        glVertex3i(1, 0, 0);
-        glEnd();
-    };
     for (const GLenum ability : {GL_TEXTURE_2D, GL_LIGHTING, GL_BLEND})
         glEnable(ability);
-    glBindTexture(GL_TEXTURE_2D, loadTexture("a.png", true));
     glColor4d(1, 1, 0, 1);
-    drawLine();
     drawAxis(5);
-    drawLine();
-    EXPECT_EQ(screen.drawn.front(), "a 0,0 1,0 width 1 blended lit part 0,0 0,0 colour 1 1 0 1");
-    EXPECT_EQ(screen.drawn.back(), screen.drawn.front());
+    EXPECT_EQ(screen.lineStyle(), "width 1 blended lit textured");
+    EXPECT_EQ(screen.state.colour, " colour 1 1 0 1");
 }
 
 
@@ -98,8 +83,7 @@ TEST_F(Pictures, initFullScreenSetsTheFirstModeOfSeveral) {
     unsigned int width = 0, height = 0;
     EXPECT_EQ(initFullScreen(&width, nullptr), 0);
     EXPECT_EQ(initFullScreen(nullptr, &height), 0);
-    EXPECT_EQ(width, 1920U);
-    EXPECT_EQ(height, 1080U);
+    EXPECT_EQ(std::pair(width, height), std::pair(1920U, 1080U));
     EXPECT_EQ(calls, Lines(2, "full screen 1920 1080 24 OpenGL"));
     window.opens = false;
     EXPECT_EQ(initFullScreen(&width, &height), -1);
@@ -107,12 +91,11 @@ TEST_F(Pictures, initFullScreenSetsTheFirstModeOfSeveral) {
 
 
 TEST_F(Pictures, initFullScreenChangesNothingWhereNoModesAreListed) {
-    SDL_Rect** const anyModeWillDo = reinterpret_cast<SDL_Rect**>(-1);
-    unsigned int size = 7;
-    for (SDL_Rect** modes : {static_cast<SDL_Rect**>(nullptr), anyModeWillDo}) {
-        window.modes = modes;
+    for (const long answer : {0L, -1L}) { // none, or any that one asks for
+        window.modes = reinterpret_cast<SDL_Rect**>(answer);
+        unsigned int size = 7;
         EXPECT_EQ(initFullScreen(&size, &size), 0);
+        EXPECT_EQ(size, 7U);
     }
-    EXPECT_EQ(size, 7U);
     EXPECT_EQ(calls, Lines{});
 }

@@ -26,7 +26,8 @@ Mix_Chunk* Mix_LoadWAV_RW(SDL_RWops*, int) {
 Mix_Music* Mix_LoadMUS(const char* file) { return reinterpret_cast<Mix_Music*>(Mix_LoadWAV(file)); }
 int Mix_PlayMusic(Mix_Music* music, int loops) { return call("play", name(music), loops); }
 int Mix_FadeInMusicPos(Mix_Music* music, int loops, int milliseconds, double from) {
-    return call("fade in", name(music), loops, milliseconds, from);
+    mixer.sounds.push_back(joined("fade in " + name(music), loops, milliseconds, from));
+    return 0;
 }
 int Mix_VolumeMusic(int volume) { return call("music volume", volume); }
 int Mix_Volume(int channel, int volume) { return call("volume", channel, volume); }

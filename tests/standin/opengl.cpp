@@ -25,6 +25,7 @@ namespace {
 GLenum shape = 0;
 std::vector<Vertex> corners(4);
 size_t emitted = 0;
+Point spot;
 
 
 Point placeOf(double x, double y) { return screen.matrices.back().first * Point(x, y) + screen.matrices.back().second; }
@@ -33,36 +34,38 @@ Point placeOf(double x, double y) { return screen.matrices.back().first * Point(
 std::string text(const Point& point) { return " " + toString(point.real()) + "," + toString(point.imag()); }
 
 
-std::string lineStyle() {
-    const std::string blended = screen.state.blendByAlpha ? " blended by alpha" : " blended";
-    return joined(" width", screen.state.lineWidth) + (screen.has(GL_LINE_SMOOTH) ? " smooth" : "") +
-           (screen.has(GL_BLEND) ? blended : "") + (screen.has(GL_LIGHTING) ? " lit" : "");
-}
-
-
-// One shape of a batch, as Screen::drawn has it.
+// One shape of a batch, as Screen::drawn has it. Of a fan with two corners, an empty slice of the pie, the third is
+// left from the batch before.
 void draw(const Vertex* vertex, size_t count) {
-    const bool texturing = screen.has(GL_TEXTURE_2D);
-    std::string line = texturing ? textures.at(screen.state.texture).picture : "no texture";
+    const Texture& texture = textures.at(screen.texture);
+    const bool plain = texture.made.find("mipmaps") == std::string::npos;
+    const std::string name = texture.picture + (plain ? " without mipmaps" : "");
+    std::string line = screen.has(GL_TEXTURE_2D) ? name : "no texture";
     std::string part;
-    // Of a fan with two corners, an empty slice of the pie, the third is left from the batch before.
-    std::vector<size_t> told{0, 1, 2, count - 1};
-    if (shape == GL_LINES)
-        told.resize(2);
-    for (const size_t i : told) {
-        line += text(vertex[i].place) + (vertex[i].depth == 0 ? "" : "," + toString(vertex[i].depth));
+    for (const size_t i : {size_t{0}, size_t{1}, size_t{2}, count - 1}) {
+        line += text(vertex[i].place);
         part += text(vertex[i].spot);
     }
-    if (shape == GL_LINES)
-        line += lineStyle();
-    else if (count != 4)
+    if (count != 4)
         line += " last of " + toString(count);
-    if (texturing && part != " 0,0 1,0 1,1 0,1" && part != " 0,0 0,1 1,1 1,0")
+    if (screen.has(GL_TEXTURE_2D) && part != " 0,0 1,0 1,1 0,1" && part != " 0,0 0,1 1,1 1,0")
         line += " part" + part;
     screen.drawn.push_back(line + vertex[count - 1].colour);
 }
 
+
+void drawLine(const Vertex& from, const Vertex& to) {
+    const std::string end = text(to.place) + "," + toString(to.depth) + " ";
+    screen.drawn.push_back("line" + text(from.place) + end + screen.lineStyle() + to.colour);
+}
+
 } // namespace
+
+std::string Screen::lineStyle() const {
+    const std::string blended = state.blendByAlpha ? " blended by alpha" : " blended";
+    return joined("width", state.lineWidth) + (has(GL_LINE_SMOOTH) ? " smooth" : "") + (has(GL_BLEND) ? blended : "") +
+           (has(GL_LIGHTING) ? " lit" : "") + (has(GL_TEXTURE_2D) ? " textured" : "");
+}
 
 extern "C" {
 
@@ -72,7 +75,7 @@ void glEnable(GLenum what) {
         call("enable blending");
 }
 void glDisable(GLenum what) { screen.state.enabled.erase(what); }
-void glBindTexture(GLenum, GLuint texture) { screen.state.texture = texture; }
+void glBindTexture(GLenum, GLuint texture) { screen.texture = texture; }
 void glColor4d(GLdouble r, GLdouble g, GLdouble b, GLdouble a) {
     const std::string name = joined(" colour", r, g, b, a);
     screen.state.colour = name == " colour 1 1 1 1" ? "" : name;
@@ -82,29 +85,23 @@ void glLineWidth(GLfloat width) { screen.state.lineWidth = width; }
 void glPushAttrib(GLbitfield groups) { screen.pushed.emplace_back(groups, screen.state); }
 void glPopAttrib() {
     Attributes& state = screen.state;
-    const Attributes saved = screen.pushed.back().second;
-    const auto restore = [groups = screen.pushed.back().first](GLbitfield group, auto& attribute, const auto& old) {
-        if ((groups & group) != 0)
-            attribute = old;
-    };
-    restore(GL_ENABLE_BIT, state.enabled, saved.enabled);
-    restore(GL_TEXTURE_BIT, state.texture, saved.texture);
-    restore(GL_CURRENT_BIT, state.spot, saved.spot);
-    restore(GL_CURRENT_BIT, state.colour, saved.colour);
-    restore(GL_COLOR_BUFFER_BIT, state.blendByAlpha, saved.blendByAlpha);
-    restore(GL_LINE_BIT, state.lineWidth, saved.lineWidth);
+    const auto [groups, saved] = screen.pushed.back();
     screen.pushed.pop_back();
+    state.enabled = (groups & GL_ENABLE_BIT) != 0 ? saved.enabled : state.enabled;
+    state.colour = (groups & GL_CURRENT_BIT) != 0 ? saved.colour : state.colour;
+    state.blendByAlpha = (groups & GL_COLOR_BUFFER_BIT) != 0 ? saved.blendByAlpha : state.blendByAlpha;
+    state.lineWidth = (groups & GL_LINE_BIT) != 0 ? saved.lineWidth : state.lineWidth;
 }
 
 void glBegin(GLenum mode) {
     shape = mode;
     emitted = 0;
 }
-void glTexCoord2d(GLdouble s, GLdouble t) { screen.state.spot = {s, t}; }
+void glTexCoord2d(GLdouble s, GLdouble t) { spot = {s, t}; }
 void glVertex2d(GLdouble x, GLdouble y) {
     if (emitted == corners.size())
         corners.emplace_back();
-    corners[emitted] = {placeOf(x, y), 0, screen.state.spot, screen.state.colour};
+    corners[emitted] = {placeOf(x, y), spot, screen.state.colour, 0};
     emitted += 1;
 }
 void glVertex3i(GLint x, GLint y, GLint z) {
@@ -112,13 +109,14 @@ void glVertex3i(GLint x, GLint y, GLint z) {
     corners[emitted - 1].depth = z;
 }
 void glEnd() {
+    for (size_t first = 0; shape == GL_LINES && first < emitted; first += 2)
+        drawLine(corners[first], corners[first + 1]);
     if (shape == GL_QUADS && emitted > 40) {
         screen.longBatch.assign(corners.begin(), corners.begin() + emitted);
         emitted = 4;
     }
-    const std::map<GLenum, size_t> ofEachShape{{GL_QUADS, 4}, {GL_LINES, 2}};
-    const size_t count = ofEachShape.count(shape) == 0 ? emitted : ofEachShape.at(shape);
-    for (size_t first = 0; first < emitted; first += count)
+    const size_t count = shape == GL_QUADS ? 4 : emitted;
+    for (size_t first = 0; shape != GL_LINES && first < emitted; first += count)
         draw(&corners[first], count);
 }
 
@@ -145,21 +143,18 @@ void glFlush() {}
 
 void glGenTextures(GLsizei, GLuint* name) {
     *name = static_cast<GLuint>(textures.size());
-    textures.push_back({files.opened + " without mipmaps", "", 0, 0});
+    textures.push_back({files.opened, ""});
 }
 void glTexParameteri(GLenum, GLenum which, GLint filter) {
-    Texture& texture = textures[screen.state.texture];
-    GLint& kept = which == GL_TEXTURE_MIN_FILTER ? texture.smaller : texture.larger;
-    kept = filter;
+    textures[screen.texture].made += joined(which == GL_TEXTURE_MIN_FILTER ? " smaller" : " larger", filter);
 }
 void glTexImage2D(GLenum, GLint, GLint parts, GLsizei w, GLsizei h, GLint, GLenum format, GLenum, const void* pixels) {
-    textures[screen.state.texture].upload = toString(parts) + (format == GL_RGBA ? " RGBA" : " other");
+    textures[screen.texture].made = toString(parts) + (format == GL_RGBA ? " RGBA" : " other");
     screen.texels.assign(static_cast<const Uint8*>(pixels), static_cast<const Uint8*>(pixels) + 4 * w * h);
 }
 GLint gluBuild2DMipmaps(GLenum, GLint parts, GLsizei w, GLsizei h, GLenum format, GLenum, const void* pixels) {
     glTexImage2D(0, 0, parts, w, h, 0, format, 0, pixels);
-    textures[screen.state.texture].upload += " mipmaps";
-    textures[screen.state.texture].picture = files.opened;
+    textures[screen.texture].made += " mipmaps";
     return 0;
 }
 void glGetIntegerv(GLenum, GLint* viewport) { std::copy_n(screen.viewport.begin(), 4, viewport); }

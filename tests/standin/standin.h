@@ -1,6 +1,7 @@
 #ifndef STANDIN_H
 #define STANDIN_H
 
+// What every test uses comes with it. IWYU pragma: begin_exports
 #include "utility/utility.h"
 
 #include <SDL.h>
@@ -14,8 +15,10 @@
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
+// IWYU pragma: end_exports
 
 /// What stand-ins write down is text, a line for each thing that happened.
 using Lines = std::vector<std::string>;
@@ -41,21 +44,17 @@ int call(const std::string& name, const Values&... values) {
 
 using Point = std::complex<double>;
 
-/// Where a corner is in the window, in pixels, how far it is off its plane, where it is in its picture, from 0 to 1,
-/// and its colour.
+/// Where a corner is in the window, in pixels, and in its picture, from 0 to 1; its colour, empty for opaque white; and
+/// how far it is off the plane.
 struct Vertex {
-    Point place;
-    double depth;
-    Point spot;
+    Point place, spot;
     std::string colour;
+    double depth;
 };
 
-/// What can be saved and restored of OpenGL's state.
+/// What drawAxis saves, changes and restores of OpenGL's state.
 struct Attributes {
     std::set<GLenum> enabled;
-    GLuint texture = 0;
-    /// Of the next corner: where it is in its picture, and its colour, empty for opaque white.
-    Point spot;
     std::string colour;
     bool blendByAlpha = false;
     GLfloat lineWidth = 1;
@@ -63,10 +62,10 @@ struct Attributes {
 
 /// opengl.cpp
 inline struct Screen {
-    /// What was drawn since the last clear, a line for each quad: its picture, its four corners, those of the part of
-    /// the picture that it shows unless it is all of it, and the colour unless it is opaque white: "TurretIcon_64
-    /// 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Of other shapes it has the first three corners and the last.
-    /// Lines are told with their width: "no texture 0,0 5,0 width 2 smooth blended by alpha lit colour 1 0 0 1".
+    /// What was drawn since the last clear, a line for each quad: its picture, with a remark if that has no mipmaps,
+    /// its four corners, those of the part of the picture that it shows unless it is all of it, and the colour unless
+    /// it is opaque white: "TurretIcon_64 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Of other shapes it has the
+    /// first three corners and the last. A line has its two ends and its style.
     Lines drawn;
     /// The last batch of more than ten quads; the lines above have only its first.
     std::vector<Vertex> longBatch;
@@ -74,33 +73,35 @@ inline struct Screen {
     std::vector<Uint8> texels;
     /// Its left and lower edge, its width and its height.
     std::array<GLint, 4> viewport{3, 5, 1, 2};
+    GLuint texture = 0;
     Attributes state;
-    /// What was pushed: the groups of attributes, and the state at that time.
+    /// The groups of attributes that were pushed, and the state at that time.
     std::vector<std::pair<GLbitfield, Attributes>> pushed;
     /// A matrix draws a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
     std::vector<std::pair<Point, Point>> matrices{{1, 0}};
 
     bool has(GLenum ability) const { return state.enabled.count(ability) != 0; }
+    /// How a line would be drawn, but for its colour: "width 2 smooth blended by alpha".
+    std::string lineStyle() const;
     /// The state in which every drawing routine must leave it.
     bool isAtRest() const {
-        return !has(GL_TEXTURE_2D) && state.texture == 0 && state.colour.empty() && pushed.empty() &&
-               matrices.size() == 1;
+        return !has(GL_TEXTURE_2D) && texture == 0 && state.colour.empty() && pushed.empty() && matrices.size() == 1;
     }
 } screen;
 
 struct Texture {
-    /// The file opened last before it was made, without folder and ending; with a remark if it has no mipmaps.
+    /// The file opened last before it was made, without folder and ending.
     std::string picture;
-    /// How its pixels came, and the filters for a smaller and a larger picture.
-    std::string upload;
-    GLint smaller, larger;
+    /// How it was made: "4 RGBA mipmaps", and OpenGL's numbers for its filters, of a smaller and of a larger picture.
+    std::string made;
 };
 /// Every texture by its name in OpenGL. They outlive a test, for objects share theirs.
 inline std::vector<Texture> textures(1);
 
 /// mixer.cpp
 inline struct Mixer {
-    /// Every sound asked for: "CoinSound" on the first free channel, or "VorelDefense_GameOver on channel 8".
+    /// Every sound asked for: "CoinSound" on the first free channel, or "VorelDefense_GameOver on channel 8"; and every
+    /// track that fades in, with its loops, its milliseconds and where it begins.
     Lines sounds;
     /// The answer to opening the audio device; -1 is a failure.
     int deviceAnswer = 0;
