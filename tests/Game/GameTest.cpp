@@ -10,12 +10,9 @@ TEST_F(GameTest, nobodyEntersOnTheTitleButItsTimeCounts) {
 
 
 TEST_F(GameTest, restartLeavesNothingButTheGround) {
-    const auto state = [this] {
-        return joined("money", money(), "water", pureWater(), "selected", game.tourelleActivite(), "shows",
-                      frameLines("")[0]);
-    };
-    const std::string fresh = state();
-    EXPECT_EQ(fresh, "money 2000 water 100 selected 0 shows TitleScreen 0,0 1024,0 1024,768 0,768");
+    const Lines title = frameLines();
+    runSteps(100);
+    const Lines field = frameLines();
     game.poserTourelle(800, 600);
     game.activeTourelle();
     runSteps(2750);
@@ -23,23 +20,27 @@ TEST_F(GameTest, restartLeavesNothingButTheGround) {
     dice.rolls = {99};
     game.restart();
     game.restart();
-    EXPECT_EQ(state(), fresh);
-    EXPECT_EQ(dice.rolls.size(), 1U) << "no dice are thrown for another ground";
-    newGrunts();
+    EXPECT_EQ(frameLines(), title);
     runSteps(100);
-    EXPECT_EQ(newGrunts(), 1) << "the one grunt of the first wave";
-    EXPECT_EQ(frameLines("WaterTurret"), Lines{});
+    EXPECT_EQ(frameLines(), field) << "with money, water and grunts as in a new game, and without turrets";
+    EXPECT_EQ(dice.rolls.size(), 1U) << "no dice are thrown for another ground";
+}
+
+
+TEST_F(GameTest, theFirstWaveIsPaidAgainAfterARestart) {
+    runSteps(2512 + 300);
+    game.restart();
+    runSteps(2512 + 300);
+    EXPECT_GT(money(), 2000);
 }
 
 
 TEST_F(GameTest, theDefeatFadesInAnewAfterARestart) {
     for (const auto& [steps, colour] : {std::pair(101, " colour 1 1 1 0.202"), {1, " colour 1 1 1 0.002"}}) {
         game.restart();
-        game.addWeapon(turretAt(800, 600, 100));
         runSteps(51);
-        game.shoot({800, 600});
+        spill(100);
         runSteps(steps);
-        EXPECT_EQ(frameLines("BottleContent").size(), 1U) << "an empty tank has no red band in the gauge";
         EXPECT_NE(frameLines("PressRToRestart").at(0).find(colour), std::string::npos) << steps;
     }
 }
@@ -59,15 +60,51 @@ TEST_F(GameTest, spawnEnnemiChoosesAPlaceOutsideTheEdgesByTheClock) {
 
 
 TEST_F(GameTest, theGameIsLostWithoutWaterAfterASecondsGrace) {
-    game.addWeapon(turretAt(800, 600, 99.5));
     runSteps(1);
-    game.shoot({800, 550});
+    spill(99.5);
     runSteps(49);
     EXPECT_FALSE(game.hasLoos());
+    runSteps(1);
+    EXPECT_TRUE(game.hasLoos());
+}
+
+
+TEST_F(GameTest, afterADefeatNobodyFiresAndNoWaveEnds) {
+    runSteps(1);
+    spill(100);
     runSteps(4000);
-    game.addWeapon(turretAt(800, 600, 0));
-    game.shoot({800, 550});
-    EXPECT_EQ(mixer.sounds, (Lines{"WaterStream", "VorelDefense_GameOver on channel 8"})) << "and nothing more";
+    spill(0);
+    EXPECT_EQ(mixer.sounds, (Lines{"WaterStream", "VorelDefense_GameOver on channel 8"}));
+}
+
+
+TEST_F(GameTest, nobodyFiresOnTheTitleNorBetweenWaves) {
+    spill(1);
+    runSteps(2600);
+    spill(1);
+    EXPECT_EQ(mixer.sounds, Lines{"VorelDefense_WellDone on channel 8"});
+}
+
+
+TEST_F(GameTest, addWeaponTakesACopy) {
+    Weapon turret = turretAt(100, 100);
+    game.addWeapon(&turret);
+    turret.setPosition({500, 500});
+    runSteps(1);
+    EXPECT_EQ(frameLines("WaterTurret_64x64 68,68").size(), 1U);
+}
+
+
+TEST_F(GameTest, allThatMeetInOneStepAreFoundBeforeAnyReacts) {
+    runSteps(52);
+    for (const double damage : {50.0, 50.0, 1.0})
+        game.addWeapon(turretAt(0, 352, 0, damage));
+    game.shoot({-100, 352});
+    mixer.sounds.clear();
+    runSteps(1);
+    EXPECT_EQ(mixer.sounds, (Lines{"EnnemyExplosion", "EnnemyGrunt", "EnnemyExplosion", "EnnemyGrunt", "WaterSplash",
+                                   "WaterSplash", "WaterSplash"}))
+        << "the third jet hurts a grunt that the second has killed, and then all of them burst";
 }
 
 
@@ -76,25 +113,24 @@ TEST_F(GameTest, defeatIsJudgedBeforeTheWavesEnd) {
     for (const auto& [cost, ending] :
          {std::pair(89.0, "VorelDefense_WellDone on channel 8"), {89.5, "VorelDefense_GameOver on channel 8"}}) {
         game.restart();
-        game.addWeapon(turretAt(512, 252, cost));
         runSteps(1);
-        game.shoot({512, 200});
+        spill(cost);
         runSteps(2511);
         EXPECT_EQ(mixer.sounds.back(), ending);
     }
 }
 
 
-TEST_F(GameTest, betweenWavesNobodyFiresAndAStepOfNoLengthSoundsNoCoins) {
+TEST_F(GameTest, coinsSoundOnlyWhenWaterDrains) {
     // The drain begins 101 steps after the wave; thirty steps are more than from one coin to the next.
     runSteps(2512 + 110);
-    ASSERT_LT(pureWater(), 90) << "the drain has begun";
+    const double water = pureWater();
+    ASSERT_LT(water, 90) << "the drain has begun";
     mixer.sounds.clear();
     for (int step = 0; step < 30; ++step)
         game.update(0);
-    game.addWeapon(turretAt(800, 600));
-    game.shoot({800, 550});
-    EXPECT_EQ(mixer.sounds, Lines{}) << "coins sound only when water goes, jets only in a wave";
+    EXPECT_EQ(pureWater(), water);
+    EXPECT_EQ(mixer.sounds, Lines{});
 }
 
 
@@ -109,11 +145,11 @@ TEST_F(GameTest, aCliqueTourelleOnTheButtonWithItsUpperEdge) {
 }
 
 
-TEST_F(GameTest, poserTourelleBuysOnTheLatticeWithRoomAround) {
+TEST_F(GameTest, poserTourelleNeedsRoomAndMoney) {
     // clang-format off
     const std::tuple<const char*, int, int, int> cases[] = {
-        {"64 pixels from the tower are too near", 607, 383, 2000}, {"115 are not", 639, 300, 1000},
-        {"45 from a turret are too near", 640, 330, 1000}, {"64 are not, and the last money pays", 672, 300, 0},
+        {"64 pixels from the tower are too near", 607, 383, 2000}, {"71.6 are not", 607, 415, 1000},
+        {"45 from a turret are too near", 608, 352, 1000}, {"64 are not, and the last money pays", 640, 384, 0},
         {"nothing without money", 99, 99, 0}};
     // clang-format on
     for (const auto& [what, x, y, left] : cases) {

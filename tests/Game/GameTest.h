@@ -1,14 +1,14 @@
 #ifndef GAME_TEST_H
 #define GAME_TEST_H
 
-#include "Entity/Weapon.h"
+// What every test of the game uses comes with it. IWYU pragma: begin_exports
+#include "Entity/Beam.h"
 #include "Game/Game.h"
 #include "audio.h"
 #include "standin/standin.h"
+// IWYU pragma: end_exports
 
 #include <cmath>
-#include <string>
-#include <utility>
 
 /// A turret as the shop builds it, but for what its shots cost and its jets do.
 inline Weapon turretAt(double x, double y, double waterConsume = 1, double damage = 50) {
@@ -30,6 +30,12 @@ struct GameTest : StandinTest {
         game.setIsInTitleScreen(false);
         while (steps-- > 0)
             game.update(0.02);
+    }
+
+    /// Fires one shot that costs so much water, if anyone may fire.
+    void spill(double water) {
+        game.addWeapon(turretAt(800, 600, water));
+        game.shoot({800, 550});
     }
 
     /// What a frame shows of one picture, or of all, with the mouse at (`x`, `y`).

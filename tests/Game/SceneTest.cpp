@@ -1,4 +1,5 @@
 #include "Game/GameTest.h"
+#include "openglDrawCircle.h"
 
 TEST_F(GameTest, theFieldIsDrawnBackToFront) {
     game.addWeapon(turretAt(300, 300, 20));
@@ -13,4 +14,24 @@ TEST_F(GameTest, theRoundEndPanelShowsPieEarningsAndWave) {
     // One tenth of the water is polluted: four of the forty slices, then the other thirty-six.
     runSteps(2512 + 50);
     expectAsRecorded("roundEnd", frameLines());
+}
+
+
+TEST_F(GameTest, theRoundEndPanelCountsTheMoneyEarned) {
+    runSteps(2512 + 300);
+    expectAsRecorded("earnings", frameLines("Numbers"));
+}
+
+
+TEST_F(GameTest, anEmptyTankShowsNoRedBandInTheGauge) {
+    runSteps(1);
+    spill(100);
+    EXPECT_EQ(frameLines("BottleContent").size(), 1U);
+}
+
+
+TEST_F(GameTest, openglDrawCircleTakesAVectorOrItsCoordinates) {
+    openglDrawCircle(Vecteur2D(5, 7), 10, 4);
+    openglDrawCircle(5.0, 7.0, 10.0, 4);
+    EXPECT_EQ(screen.drawn, Lines(2, "no texture 15,7 5,17 -5,7 15,7 last of 5 colour 1 0 0 0.1"));
 }
