@@ -14,6 +14,15 @@ struct Combat : GameTest {
             entity.update(0.02, game);
     }
 
+    Lines drawnInSteps(Entity& entity, int steps) const {
+        Lines drawn;
+        for (int step = 1; step <= steps; ++step) {
+            update(entity, 1);
+            drawn.push_back(joined("step", step, testing::PrintToString(drawnBy(entity))));
+        }
+        return drawn;
+    }
+
     static Lines drawnBy(const Entity& entity) {
         screen.drawn.clear();
         entity.draw(20);
@@ -23,10 +32,12 @@ struct Combat : GameTest {
 
 
 TEST_F(Combat, isCollidingWhenDiscsOfSolidActiveObjectsOverlap) {
+    Ennemi gone = grunt;
+    gone.onCollideTower(&tower);
     // clang-format off
     const std::tuple<Entity*, double, bool> cases[] = {
         {&other, 39.9, true}, {&other, 40, false}, {&tower, 49.9, true}, {&tower, 50, false}, {&jet, 29.9, true},
-        {&jet, 30, false}, {&turret, 0, false}, {&grunt, 0, false}};
+        {&jet, 30, false}, {&turret, 0, false}, {&gone, 0, false}, {&grunt, 0, false}};
     // clang-format on
     for (const auto& [thing, distance, collides] : cases) {
         thing->setPosition({100 + distance, 352});
@@ -36,24 +47,48 @@ TEST_F(Combat, isCollidingWhenDiscsOfSolidActiveObjectsOverlap) {
 }
 
 
-TEST_F(Combat, theTowerKeepsItsWaterWithinTheTank) {
-    tower.addPollution(40);
-    EXPECT_TRUE(tower.canRemoveWater(60));
-    EXPECT_FALSE(tower.canRemoveWater(60.5));
-    tower.removeWater(50);
-    tower.addPollution(15);
-    EXPECT_EQ(tower.getPollution(), 50) << "never more pollution than water";
-    tower.removeWater(60);
-    EXPECT_EQ(tower.getWater(), 0);
-    EXPECT_EQ(tower.getRatio(), 0) << "an empty tank is not polluted";
-    tower.addPollution(-60); // never less than none
-    tower.refil(170);
-    EXPECT_EQ(tower.getPureWaterLeft(), 100);
+TEST_F(Combat, getPosCaseIsTheCellUnderTheObject) {
+    const std::pair<Vecteur2D, Vecteur2D> cases[] = {
+        {{100, 70}, {3, 2}}, {{31.9, 32}, {0, 1}}, {{-31.9, 63.9}, {0, 1}}};
+    for (const auto& [place, cell] : cases) {
+        grunt.setPosition(place);
+        EXPECT_EQ(grunt.getPosCase(), cell) << place;
+    }
 }
 
 
-TEST_F(Combat, aJetFliesToTheEndOfItsRangeAndVanishes) {
-    EXPECT_EQ(drawnBy(jet), Lines{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6 100.4,100"}) << "upwards";
+TEST_F(Combat, setPositionCaseMovesToTheCornerOfACell) {
+    grunt.setPositionCase({3, 2});
+    EXPECT_EQ(grunt.getPos(), Vecteur2D(96, 64));
+}
+
+
+TEST_F(Combat, onlyCleanWaterCanBeRemovedFromTheTower) {
+    tower.addPollution(40);
+    EXPECT_TRUE(tower.canRemoveWater(60));
+    EXPECT_FALSE(tower.canRemoveWater(60.5));
+}
+
+
+TEST_F(Combat, theTowersWaterStaysBetweenNoneAndItsCapacity) {
+    tower.removeWater(101);
+    EXPECT_EQ(tower.getWater(), 0);
+    EXPECT_EQ(tower.getRatio(), 0) << "an empty tank is not polluted";
+    tower.refil(170);
+    EXPECT_EQ(tower.getWater(), 100);
+}
+
+
+TEST_F(Combat, theTowersPollutionStaysBetweenNoneAndItsWater) {
+    tower.removeWater(50);
+    for (const auto& [added, then] : {std::pair(0.5, 0.5), {60, 50}, {-60, 0}}) {
+        tower.addPollution(added);
+        EXPECT_EQ(tower.getPollution(), then) << added;
+    }
+}
+
+
+TEST_F(Combat, aJetFliesToTheEndOfItsRange) {
     Beam exact(10, 15000, 300, {100, 100}, 50, 10, {1, 0});
     update(exact, 1);
     EXPECT_TRUE(exact.isSolide()) << "300 pixels are within a range of 300";
@@ -62,15 +97,22 @@ TEST_F(Combat, aJetFliesToTheEndOfItsRangeAndVanishes) {
 }
 
 
-TEST_F(Combat, aJetBurstsOnceAndStandsAsASplashFor23Frames) {
-    const std::string splash = "VorelDefense_explosions_64 110,100 110,138.4 71.6,138.4 71.6,100 part ";
+TEST_F(Combat, aBurstJetStandsAsASplash) {
+    EXPECT_EQ(drawnBy(jet), Lines{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6 100.4,100"}) << "upwards";
     jet.onCollideEnnemi(&grunt);
-    update(jet, 22);
-    EXPECT_EQ(drawnBy(jet), Lines{splash + "0.875,0 1,0 1,0.5 0.875,0.5"});
-    jet.onCollideEnnemi(&grunt);
-    EXPECT_EQ(mixer.sounds, Lines{"WaterSplash"});
-    update(jet, 1);
+    expectAsRecorded("splash", drawnInSteps(jet, 23));
     EXPECT_TRUE(jet.isNeedToBeDelete());
+}
+
+
+TEST_F(Combat, aJetBurstsAndHurtsOnce) {
+    for (Ennemi* touched : {&grunt, &other}) {
+        jet.collide(touched);
+        touched->collide(&jet);
+    }
+    EXPECT_EQ(mixer.sounds, Lines{"WaterSplash"});
+    EXPECT_EQ(grunt.getHealth(), 50);
+    EXPECT_EQ(other.getHealth(), 100) << "a burst jet hurts nobody";
 }
 
 
@@ -94,53 +136,77 @@ TEST_F(Combat, aGruntFacesTheTower) {
 }
 
 
-TEST_F(Combat, aGruntWithoutHealthExplodesWalkingAndIsSometimesDrawnWrong) {
-    const std::string last = " part 0.875,0.5 1,0.5 1,1 0.875,1"; // the last of eight pictures
-    // One death in five, those that roll 81 or more of 100, shows the wrong sheet, on purpose. Each hit on an exploding
-    // grunt rolls again.
-    dice.rolls = {80, 81};
+TEST_F(Combat, aGruntWalksInFourPictures) { expectAsRecorded("walk", drawnInSteps(grunt, 36)); }
+
+
+TEST_F(Combat, aGruntWithoutHealthExplodesWalking) {
     grunt.removeHealth(100);
-    update(grunt, 22);
-    EXPECT_EQ(drawnBy(grunt), Lines{"VorelDefense_explosions_64 56.4,304 152.4,304 152.4,400 56.4,400" + last});
-    grunt.removeHealth(1);
-    EXPECT_EQ(drawnBy(grunt), Lines{"VorelDefense_grunts 88.4,336 120.4,336 120.4,368 88.4,368" + last});
-    update(grunt, 1);
-    EXPECT_EQ(drawnBy(grunt), Lines{}) << "23 steps after its death";
+    expectAsRecorded("explosion", drawnInSteps(grunt, 23));
 }
 
 
-TEST_F(Combat, aWaveIsNotFinishedBeforeAllItsGruntsHaveEntered) {
-    Wave wave(1);
-    wave.addEnnemi(grunt, 2);
-    wave.spawnEnnemi({100, 352});
-    wave.getEnnemisInGame()[0].onCollideTower(&tower);
-    EXPECT_FALSE(wave.isFinish()) << "one is gone, and one has yet to enter";
+TEST_F(Combat, aGruntCriesWhenItDiesAndAtEveryFurtherHit) {
+    for (const size_t cries : {0U, 1U, 2U}) {
+        grunt.removeHealth(50);
+        EXPECT_EQ(linesStarting("EnnemyGrunt", mixer.sounds).size(), cries);
+        EXPECT_EQ(linesStarting("EnnemyExplosion", mixer.sounds).size(), cries);
+    }
 }
 
 
-TEST_F(Combat, aTurretFiresWhenReadyInRangeAndPaidFor) {
+TEST_F(Combat, oneDeathInFiveIsDrawnWrong) {
+    // On purpose: those that roll 81 or more of 100 show the wrong sheet, as large as a grunt.
+    for (const auto& [roll, sheet] :
+         {std::pair(80, "VorelDefense_explosions_64"), {181, "VorelDefense_grunts 84,336"}}) {
+        dice.rolls = {roll};
+        grunt.removeHealth(100);
+        EXPECT_EQ(linesStarting(sheet, drawnBy(grunt)).size(), 1U) << roll;
+    }
+}
+
+
+TEST_F(Combat, aTurretFiresWithinItsRange) {
     EXPECT_FALSE(turret.shoot({400.01, 100}, tower));
-    EXPECT_TRUE(turret.shoot({400, 100}, tower)) << "exactly in range";
+    EXPECT_TRUE(turret.shoot({400, 100}, tower));
+}
+
+
+TEST_F(Combat, aTurretRestsForASecondAndItsCopyAsLong) {
+    turret.shoot({200, 100}, tower);
     update(turret, 49);
-    EXPECT_FALSE(turret.shoot({100, 200}, tower)) << "it rests for a second";
     Weapon copy(turret);
-    EXPECT_FALSE(copy.shoot({100, 200}, tower)) << "and a copy has the same rest to wait";
-    update(turret, 1);
+    EXPECT_TRUE(copy.getBeams().empty()) << "jets stay with the turret that fired them";
+    for (Weapon* one : {&turret, &copy}) {
+        EXPECT_FALSE(one->shoot({100, 200}, tower));
+        update(*one, 1);
+        EXPECT_TRUE(one->shoot({100, 200}, tower));
+    }
+}
+
+
+TEST_F(Combat, aShotTakesItsWaterOrIsNotFired) {
     tower.removeWater(98.5);
-    EXPECT_FALSE(turret.shoot({100, 200}, tower)) << "half a unit does not pay a shot";
+    EXPECT_TRUE(turret.shoot({200, 100}, tower));
+    EXPECT_EQ(tower.getWater(), 0.5);
+    update(turret, 50);
+    EXPECT_FALSE(turret.shoot({200, 100}, tower)) << "half a unit does not pay a shot";
     tower.refil(0.5);
-    EXPECT_TRUE(turret.shoot({100, 200}, tower)) << "the last unit does";
+    EXPECT_TRUE(turret.shoot({200, 100}, tower)) << "the last unit does";
+}
+
+
+TEST_F(Combat, aShotReadsNoPicture) {
+    const size_t read = textures.size();
+    turret.shoot({200, 100}, tower);
+    EXPECT_EQ(textures.size(), read);
 }
 
 
 TEST_F(Combat, aTurretDropsSeveralSpentJetsAtOnceAndKeepsTheOthers) {
-    turret.shoot({200, 100}, tower);
-    update(turret, 50);
-    const size_t read = textures.size();
-    turret.shoot({100, 100}, tower); // at its own place, where the jet stays
-    EXPECT_EQ(textures.size(), read) << "no shot reads its pictures again";
-    update(turret, 50);
-    turret.shoot({100, 200}, tower);
+    for (const Vecteur2D& target : {Vecteur2D(200, 100), turret.getPos(), Vecteur2D(100, 200)}) {
+        turret.shoot(target, tower); // the second at its own place, where the jet stays
+        update(turret, 50);
+    }
     turret.update(10, game);
     ASSERT_EQ(turret.getBeams().size(), 1U);
     EXPECT_EQ(turret.getBeams()[0]->getPos(), turret.getPos());
