@@ -73,6 +73,7 @@ TEST_F(Pictures, drawAxisLeavesOpenGLAsItWas) {
     drawAxis(5);
     EXPECT_EQ(screen.lineStyle(), "width 1 blended lit textured");
     EXPECT_EQ(screen.state.colour, " colour 1 1 0 1");
+    EXPECT_EQ(screen.matrices.size(), 1U);
 }
 
 
