@@ -48,12 +48,10 @@ TEST_F(Combat, isCollidingWhenDiscsOfSolidActiveObjectsOverlap) {
 
 
 TEST_F(Combat, getPosCaseIsTheCellUnderTheObject) {
-    const std::pair<Vecteur2D, Vecteur2D> cases[] = {
-        {{100, 70}, {3, 2}}, {{31.9, 32}, {0, 1}}, {{-31.9, 63.9}, {0, 1}}};
-    for (const auto& [place, cell] : cases) {
-        grunt.setPosition(place);
-        EXPECT_EQ(grunt.getPosCase(), cell) << place;
-    }
+    grunt.setPosition({100, 70});
+    EXPECT_EQ(grunt.getPosCase(), Vecteur2D(3, 2));
+    grunt.setPosition({-31.9, 63.9});
+    EXPECT_EQ(grunt.getPosCase(), Vecteur2D(0, 1)) << "also beyond the left edge";
 }
 
 
@@ -146,11 +144,9 @@ TEST_F(Combat, aGruntWithoutHealthExplodesWalking) {
 
 
 TEST_F(Combat, aGruntCriesWhenItDiesAndAtEveryFurtherHit) {
-    for (const size_t cries : {0U, 1U, 2U}) {
+    for (int hit = 0; hit < 3; ++hit)
         grunt.removeHealth(50);
-        EXPECT_EQ(linesStarting("EnnemyGrunt", mixer.sounds).size(), cries);
-        EXPECT_EQ(linesStarting("EnnemyExplosion", mixer.sounds).size(), cries);
-    }
+    EXPECT_EQ(mixer.sounds, (Lines{"EnnemyExplosion", "EnnemyGrunt", "EnnemyExplosion", "EnnemyGrunt"}));
 }
 
 

@@ -86,15 +86,6 @@ TEST_F(GameTest, nobodyFiresOnTheTitleNorBetweenWaves) {
 }
 
 
-TEST_F(GameTest, addWeaponTakesACopy) {
-    Weapon turret = turretAt(100, 100);
-    game.addWeapon(&turret);
-    turret.setPosition({500, 500});
-    runSteps(1);
-    EXPECT_EQ(frameLines("WaterTurret_64x64 68,68").size(), 1U);
-}
-
-
 TEST_F(GameTest, allThatMeetInOneStepAreFoundBeforeAnyReacts) {
     runSteps(52);
     for (const double damage : {50.0, 50.0, 1.0})

@@ -9,14 +9,6 @@ struct WaveTest : StandinTest {
 };
 
 
-TEST_F(WaveTest, spawnEnnemiReleasesTheRosterWhereItIsTold) {
-    for (const double x : {100.0, 200.0, 300.0})
-        wave.spawnEnnemi({x, 352});
-    ASSERT_EQ(wave.getEnnemisInGame().size(), 2U) << "nobody is left for the third place";
-    EXPECT_EQ(wave.getEnnemisInGame()[1].getPos(), Vecteur2D(200, 352));
-}
-
-
 TEST_F(WaveTest, isFinishWhenAllHaveEnteredAndAreGone) {
     for (const bool finished : {false, true}) {
         wave.spawnEnnemi({100, 352});

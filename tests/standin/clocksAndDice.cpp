@@ -15,7 +15,7 @@ std::chrono::system_clock::time_point std::chrono::system_clock::now() noexcept 
 extern "C" {
 
 time_t time(time_t*) noexcept { return clocks.calendar; }
-void srand(unsigned int seed) noexcept { dice.seed = seed; }
+void srand(unsigned int seed) noexcept { call("seed of the dice", seed); }
 int rand() noexcept {
     if (dice.rolls.empty())
         return 60;

@@ -15,9 +15,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -38,9 +35,9 @@ std::string text(const Point& point) { return " " + toString(point.real()) + ","
 // left from the batch before.
 void draw(const Vertex* vertex, size_t count) {
     const Texture& texture = textures.at(screen.texture);
-    const bool plain = texture.made.find("mipmaps") == std::string::npos;
-    const std::string name = texture.picture + (plain ? " without mipmaps" : "");
-    std::string line = screen.has(GL_TEXTURE_2D) ? name : "no texture";
+    std::string line = screen.has(GL_TEXTURE_2D) ? texture.picture : "no texture";
+    if (line == texture.picture && texture.made.find("mipmaps") == std::string::npos)
+        line += " without mipmaps";
     std::string part;
     for (const size_t i : {size_t{0}, size_t{1}, size_t{2}, count - 1}) {
         line += text(vertex[i].place);

@@ -149,8 +149,6 @@ inline struct Clocks {
 inline struct Dice {
     /// What rand() answers next; when they are used up, 60, which leaves the ground without patches.
     std::deque<int> rolls;
-    /// What srand() was told.
-    unsigned int seed = 0;
 } dice;
 
 /// files.cpp
