@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <fstream>
 #include <initializer_list>
+#include <ios>
 #include <istream>
 
 namespace {

@@ -1,7 +1,5 @@
 #include "standin/standin.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>

@@ -4,6 +4,9 @@
 
 #include <fstream>
 #include <iterator>
+#include <string>
+#include <utility>
+#include <vector>
 
 using Bytes = std::vector<Uint8>;
 

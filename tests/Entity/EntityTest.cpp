@@ -1,4 +1,15 @@
+#include "Entity/Entity.h"
+#include "Entity/Beam.h"
+#include "Entity/Ennemi.h"
+#include "Entity/Tower.h"
+#include "Entity/Weapon.h"
 #include "Game/GameTest.h"
+#include "standin/standin.h"
+
+#include <cstddef>
+#include <string>
+#include <tuple>
+#include <utility>
 
 /// One object of each class, as the game builds them. `tower` stands where the game's own does, but is another: grunts
 /// walk to the game's, and the turret, at (100, 100) like the jet, drinks from this one.

@@ -1,4 +1,9 @@
 #include "Game/GameTest.h"
+#include "Vecteur/Vecteur2D.h"
+#include "standin/standin.h"
+
+#include <tuple>
+#include <utility>
 
 TEST_F(GameTest, nobodyEntersOnTheTitleButItsTimeCounts) {
     for (int step = 0; step < 60; ++step)

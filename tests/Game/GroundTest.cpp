@@ -1,4 +1,5 @@
-#include "Game/GameTest.h"
+#include "Game/Game.h"
+#include "standin/standin.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,5 +1,6 @@
 #include "Game/GameTest.h"
 #include "openglDrawCircle.h"
+#include "standin/standin.h"
 
 TEST_F(GameTest, theFieldIsDrawnBackToFront) {
     game.addWeapon(turretAt(300, 300, 20));

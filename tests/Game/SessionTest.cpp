@@ -1,4 +1,6 @@
 #include "Game/GameTest.h"
+#include "standin/standin.h"
+#include "utility/utility.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,6 +1,8 @@
 #include "LogController/LogControllerDef.h"
 #include "standin/standin.h"
 
+#include <utility>
+
 struct LogControllerTest : StandinTest {};
 
 

@@ -1,5 +1,6 @@
 #include "exception/exception.h"
 
+#include "exception/ExceptionType.h"
 #include "exception/exceptionTypeDef.h"
 #include "standin/standin.h"
 

@@ -15,7 +15,6 @@
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 // IWYU pragma: end_exports

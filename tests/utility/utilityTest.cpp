@@ -1,8 +1,10 @@
 #include "utility/utility.h"
 
-#include "standin/standin.h"
+#include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 TEST(Utility, deletePointerInVectorDeletesOnceAndLeavesNulls) {
     const auto witness = std::make_shared<int>();
