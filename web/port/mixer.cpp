@@ -1,7 +1,7 @@
 // Stands in for SDL_mixer: sounds and music are played by the browser. What the game holds as pointers are numbers of
 // sounds, and never looked into.
 
-#include "browser.h"
+#include "port.h"
 
 #include <SDL.h>
 #include <SDL_mixer.h>

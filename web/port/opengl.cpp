@@ -1,7 +1,7 @@
 // Stands in for OpenGL 1.x and GLU, which browsers don't have: collects what the game draws as triangles and hands
 // them to WebGL a whole frame at a time, so that a frame costs one upload and one call for each change of picture.
 
-#include "browser.h"
+#include "port.h"
 
 #include <GL/gl.h>
 #include <GL/glu.h>

@@ -1,7 +1,7 @@
 // Stands in for SDL and SDL_image: the canvas is the window, the page's input its events, and surfaces are plain memory
 // of four bytes a pixel. Also for the disk: there is none, so every file is missing.
 
-#include "browser.h"
+#include "port.h"
 
 #include <SDL.h>
 #include <SDL_image.h>

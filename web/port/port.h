@@ -1,10 +1,10 @@
-#ifndef BROWSER_H
-#define BROWSER_H
+#ifndef PORT_H
+#define PORT_H
 
 #include <cstddef>
 #include <cstdint>
 
-// What the port asks of the browser; browser.js answers.
+// What the port asks of the browser; port.js answers.
 
 /// A corner of a triangle: its place, from -1 to 1 in each direction of the window, the place in the picture and the
 /// colour.

@@ -1,4 +1,4 @@
-// What only the browser can do for the port; browser.h says what each function promises. The page hands over, as fields
+// What only the browser can do for the port; port.h says what each function promises. The page hands over, as fields
 // of Module: gl (the canvas's WebGL context), pictures and sounds (by path), address (where a file of a path is), audio
 // (an AudioContext), speaker (the node that all sound goes to), music (the element that plays it), musicVolume (its node)
 // and closed (a function that is called when the game has ended).
