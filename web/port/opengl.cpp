@@ -35,6 +35,7 @@ std::vector<Plane> modelview(1);
 std::vector<Plane> projection(1);
 std::vector<Plane>* current = &modelview;
 
+bool visible = true;
 bool texturing = false;
 unsigned boundTexture = 0;
 unsigned lastTexture = 0;
@@ -132,6 +133,9 @@ void drawCollected() {
 }
 
 
+void setVisible(bool isVisible) { visible = isVisible; }
+
+
 extern "C" {
 
 void glBegin(GLenum mode) {
@@ -144,12 +148,16 @@ void glBegin(GLenum mode) {
 
 // Quads are fans of four; polygons, which are convex, and fans are one fan each.
 void glEnd() {
+    if (!visible)
+        return;
     const std::size_t drawn = corners.size() - shapeBegin;
     addFans(shapeBegin, corners.size(), shape == GL_QUADS ? 4 : std::max<std::size_t>(drawn, 1));
 }
 
 
 void glVertex2d(GLdouble x, GLdouble y) {
+    if (!visible)
+        return;
     const Plane all = combined(projection.back(), modelview.back());
     corner.x = static_cast<float>(all.xx * x + all.xy * y + all.x);
     corner.y = static_cast<float>(all.yx * x + all.yy * y + all.y);
@@ -212,7 +220,8 @@ void glBlendFunc(GLenum /*source*/, GLenum /*destination*/) {}
 
 void glClear(GLbitfield /*buffers*/) {
     drawCollected();
-    webClear();
+    if (visible)
+        webClear();
 }
 
 

@@ -35,10 +35,9 @@ void webUpload(unsigned texture, int level, int width, int height, const std::ui
 /// Sets a parameter of a texture.
 void webFilter(unsigned texture, int name, int value);
 
-/// Returns when the browser wants the next frame: not before a hidden page is seen again.
-void webNextFrame();
-/// Returns after so many milliseconds.
-void webSleep(unsigned milliseconds);
+/// Returns when the browser wants a frame for which steps of the game are due, and says how many: not while the page
+/// rests.
+unsigned webNextFrame();
 
 /// Takes the oldest input that was not taken yet: an SDL event type, a key or button, and a place in the window.
 /// Returns 0 if there is none.
@@ -65,5 +64,7 @@ void webSilence();
 
 /// Draws what was collected since the last time.
 void drawCollected();
+/// Whether what follows is drawn, or nobody will see it.
+void setVisible(bool visible);
 
 #endif

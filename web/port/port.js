@@ -115,11 +115,50 @@ mergeInto(LibraryManager.library, {
     return pixels;
   },
 
-  webNextFrame: function () {
-    Asyncify.handleSleep(function (wake) { requestAnimationFrame(function () { wake(); }); });
+  // The game takes 60 steps a second on every display. Each frame of the display says how many are due: one and the same
+  // number wherever the display's pace allows it, for a step too many or too few is seen as a judder.
+  $Clock: {
+    STEP: 1000 / 60, // milliseconds
+    MOST: 5, // steps for one frame: what is later still is not made up, or a slow machine would be ever later
+    interval: 1000 / 60, // of the display's frames, in milliseconds
+    last: null, // when the display showed its last frame
+    owed: 0, // steps, and the part of one
+
+    // The steps for one frame of the display. Displays of 59.94 or 119.88 hertz are taken for what they are sold as.
+    perFrame: function () {
+      var steps = Clock.interval / Clock.STEP;
+      var simple = steps > 1 ? Math.round(steps) : 1 / Math.round(1 / steps);
+      return Math.abs(steps / simple - 1) < 0.01 ? simple : steps;
+    },
+
+    // How many steps are due at a frame of this time. Times of frames are inexact, and some frames are left out: so
+    // frames are counted, and only what fits no number of them is measured by the clock.
+    due: function (now) {
+      var passed = Clock.last === null ? Clock.STEP : Math.max(0, now - Clock.last);
+      Clock.last = now;
+      var frames = Math.max(1, Math.round(passed / Clock.interval));
+      var even = Math.abs(passed - frames * Clock.interval) < Clock.interval / 3;
+      Clock.interval += (passed / frames - Clock.interval) / 32;
+      Clock.owed += even ? frames * Clock.perFrame() : passed / Clock.STEP;
+      var steps = Math.floor(Clock.owed + 1e-6);
+      Clock.owed -= steps;
+      return Math.min(steps, Clock.MOST);
+    },
+
+    wait: function (wake) {
+      requestAnimationFrame(function (now) {
+        var steps = Clock.due(now);
+        if (steps > 0)
+          wake(steps);
+        else
+          Clock.wait(wake);
+      });
+    }
   },
-  webSleep: function (milliseconds) {
-    Asyncify.handleSleep(function (wake) { setTimeout(wake, milliseconds); });
+
+  webNextFrame__deps: ['$Clock'],
+  webNextFrame: function () {
+    return Asyncify.handleSleep(Clock.wait);
   },
 
   // The numbers of events and keys are those of SDL's headers.

@@ -67,13 +67,18 @@ const char* SDL_GetError() { return ""; }
 Uint32 SDL_GetTicks() { return static_cast<Uint32>(emscripten_get_now()); }
 
 
-void SDL_Delay(Uint32 milliseconds) { webSleep(milliseconds); }
+// The swap has waited already.
+void SDL_Delay(Uint32 /*milliseconds*/) {}
 
 
-// The browser shows a frame when the program gives it its turn.
+// The browser shows a frame when the program gives it its turn. Steps that are late follow at once; the last of them is
+// what the next frame shows.
 void SDL_GL_SwapBuffers() {
+    static unsigned stepsDue = 1;
     drawCollected();
-    webNextFrame();
+    if (--stepsDue == 0)
+        stepsDue = webNextFrame();
+    setVisible(stepsDue == 1);
 }
 
 
