@@ -1,74 +1,81 @@
-// The page around the game: loads its files, starts it on a click, and keeps the canvas as large and as sharp as the
-// window allows.
+// The page around the game: loads its files, starts it on a click, lets it rest, and says what has gone wrong.
+
+import * as sound from './sound.js?@BUILD@';
 
 const element = id => document.getElementById(id);
-const [canvas, front, bar, message, progress, start] =
-  ['canvas', 'front', 'bar', 'message', 'progress', 'start'].map(element);
+const [canvas, front, bar, message, progress, start, rest] =
+  ['canvas', 'front', 'bar', 'message', 'progress', 'start', 'rest'].map(element);
 
-const files = JSON.parse(element('files').textContent); // path: bytes
-const welcome = message.textContent;
-const build = new URL(import.meta.url).search.slice(1);
-const loaded = {};
-const arrived = {}; // path: bytes
+const files = JSON.parse(element('files').textContent); // before: what is loaded before the start, and its bytes; sounds
+const build = new URL(import.meta.url).search;
+const arrived = {}; // file: bytes
+const images = {}; // by the places that the game knows
+const pictures = {}; // the same as the program wants them
+let program; // compiled
 let gl;
-let audio;
-let speaker;
-let music;
-let musicVolume;
-let game;
+let sharpness;
+let game; // the program that runs
+let state = 'front'; // then 'starting', 'playing' and 'resting', and 'front' again; 'broken' is for ever
 
 
 // Under a name of its own for each build of the game, so that no two are mixed.
-const address = path => `${path}?${build}`;
+const address = path => path + build;
+
+// A browser may refuse what it is asked for; then all stays as it is.
+const nevermind = () => {};
+
+// Lets the page do what else it has to do.
+const turn = () => new Promise(done => setTimeout(done));
 
 
-function say(words, button) {
+function offer(words, button, deed) {
   message.textContent = words;
   message.setAttribute('role', 'alert');
   progress.hidden = true;
-  start.hidden = !button;
-  start.textContent = button || '';
   start.disabled = false;
+  start.textContent = button;
+  start.onclick = deed;
+  bar.hidden = true;
+  front.hidden = false;
+  start.focus();
+  if (document.fullscreenElement)
+    document.exitFullscreen().catch(nevermind);
 }
 
 
-// The game draws each frame as a whole, and nothing behind it is seen.
-function openCanvas() {
-  const options = {alpha: false, antialias: false, depth: false, stencil: false};
-  // Without a graphics card each pixel is dear, so there the canvas never gets more of them than the game's own window.
-  gl = canvas.getContext('webgl', {...options, failIfMajorPerformanceCaveat: true});
-  const quick = Boolean(gl);
-  gl = gl || canvas.getContext('webgl', options);
-  if (!gl)
-    return false;
-  canvas.addEventListener('webglcontextlost', () => {
-    say('The browser took the graphics away, perhaps for another program.', 'Load again');
-    start.onclick = () => location.reload();
-    front.hidden = false;
-  });
-
-  // The pictures have two pixels for each of the window: more than that would show nothing new.
-  const widest = quick ? 2048 : 1024;
-  new ResizeObserver(() => {
-    const {width} = canvas.getBoundingClientRect();
-    canvas.width = Math.max(1, Math.min(widest, Math.round(width * devicePixelRatio)));
-    canvas.height = Math.max(1, Math.round(canvas.width * 3 / 4));
-  }).observe(canvas);
-  return true;
+// Nothing goes on behind these words, and nothing is written over them: only the page, loaded again, begins anew.
+function breakOff(words) {
+  if (state === 'broken')
+    return;
+  state = 'broken';
+  game?.halt?.();
+  sound.rest();
+  rest.close();
+  offer(words, 'Load again', () => location.reload());
 }
 
 
-async function fetchBytes(path) {
-  const response = await fetch(address(path));
+function fail(error) {
+  breakOff('The game stopped by itself, and that is a fault of ours. ' +
+    `Version ${element('version').textContent} says: ${error?.message || error}`);
+}
+
+
+function arrive(file, bytes) {
+  arrived[file] = (arrived[file] || 0) + bytes;
+  progress.value = Object.values(arrived).reduce((sum, some) => sum + some, 0);
+}
+
+
+async function fetchBytes(file) {
+  const response = await fetch(address(file));
   if (!response.ok)
     throw new Error(`the server answered ${response.status}`);
   const reader = response.body.getReader();
   const parts = [];
-  arrived[path] = 0;
   for (let part = await reader.read(); !part.done; part = await reader.read()) {
     parts.push(part.value);
-    arrived[path] += part.value.length;
-    progress.value = Object.values(arrived).reduce((sum, bytes) => sum + bytes, 0);
+    arrive(file, part.value.length);
   }
   return new Blob(parts, {type: response.headers.get('content-type')});
 }
@@ -83,50 +90,41 @@ async function picture(blob) {
 }
 
 
-// Sounds can be made ready before the browser allows any to be heard.
-async function sound(blob) {
-  return new OfflineAudioContext(2, 1, 44100).decodeAudioData(await blob.arrayBuffer());
-}
-
-
-// The music is not among the files: it is fetched while it plays.
-async function load(path) {
-  if (loaded[path])
-    return;
-  try {
-    const blob = await fetchBytes(path);
-    loaded[path] = await (path.endsWith('.wasm') ? blob.arrayBuffer().then(bytes => WebAssembly.compile(bytes))
-      : path.endsWith('.js') ? script(blob)
-      : path.endsWith('.wav') ? sound(blob)
-      : picture(blob));
-  } catch (error) {
-    throw new Error(`${path} did not arrive: ${error.message}.`);
-  }
-}
-
-
-function script(blob) {
+function script(file) {
   return new Promise((resolve, reject) => {
     const code = document.createElement('script');
-    code.src = URL.createObjectURL(blob);
-    code.onload = () => resolve(true);
-    code.onerror = () => reject(new Error('it is no script'));
+    code.src = address(file);
+    code.onload = () => resolve(arrive(file, files.before[file]));
+    code.onerror = () => reject(new Error('no script was found'));
     document.head.append(code);
   });
 }
 
 
+// Pictures are smaller on the way than where the game knows them.
+async function load(file) {
+  const place = file.replace(/\.webp$/, '');
+  try {
+    if (file.endsWith('.js'))
+      await script(file);
+    else if (file.endsWith('.wasm'))
+      program = await WebAssembly.compile(await (await fetchBytes(file)).arrayBuffer());
+    else
+      images[place] = await picture(await fetchBytes(file));
+  } catch (error) {
+    throw new Error(`${place} did not arrive: ${error.message}.`);
+  }
+}
+
+
+// The page's own picture comes first: it is what there is to see meanwhile.
 async function loadAll() {
-  progress.max = Object.values(files).reduce((sum, bytes) => sum + bytes, 0);
-  message.textContent = welcome;
-  progress.hidden = false;
-  start.disabled = true;
-  start.textContent = 'Loading…';
-  const results = await Promise.allSettled(Object.keys(files).map(load));
-  const failed = results.find(result => result.status === 'rejected');
-  if (failed) {
-    say(failed.reason.message, 'Try again');
-    start.onclick = loadAll;
+  progress.max = Object.values(files.before).reduce((sum, bytes) => sum + bytes, 0);
+  await front.querySelector('img').decode().catch(nevermind);
+  try {
+    await Promise.all(Object.keys(files.before).map(load));
+  } catch (error) {
+    breakOff(error.message);
     return;
   }
   progress.hidden = true;
@@ -137,99 +135,183 @@ async function loadAll() {
 }
 
 
-// Only a click lets a page be heard, and in some browsers only what it finds there: so the music has one player for all
-// pieces, which is woken here.
-function openAudio() {
-  audio = new AudioContext();
-  speaker = audio.createGain();
-  speaker.connect(audio.destination);
-  music = new Audio();
-  music.loop = true;
-  music.load();
-  musicVolume = audio.createGain();
-  musicVolume.connect(speaker);
-  audio.createMediaElementSource(music).connect(musicVolume);
+// One after another, as the game is likely to need them. What never comes is never heard.
+async function loadSounds() {
+  for (const file of files.sounds.splice(0))
+    try {
+      await sound.add(file, await (await fetchBytes(file)).arrayBuffer());
+    } catch (error) {
+      console.warn(`${file} will not be heard: ${error.message}`);
+    }
 }
 
 
-function play() {
-  if (!audio)
-    openAudio();
-  audio.resume();
+// The game draws each frame as a whole, and nothing behind it is seen.
+function openCanvas() {
+  const options = {alpha: false, antialias: false, depth: false, stencil: false};
+  // The pictures have two pixels for each of the game's: more of them would show nothing new. Without a graphics card
+  // each pixel is dear.
+  gl = canvas.getContext('webgl', {...options, failIfMajorPerformanceCaveat: true});
+  sharpness = gl ? 2 : 1;
+  gl = gl || canvas.getContext('webgl', options);
+  canvas.addEventListener('webglcontextlost', () =>
+    breakOff('The browser took the graphics away, perhaps for another program.'));
+}
 
-  front.hidden = true;
-  bar.hidden = false;
-  canvas.focus();
+
+// WebGL hands the pixels over as they are in the file; a 2-D canvas would lose the colours of transparent ones. One
+// picture at a time, for the browser may have to decode it anew.
+async function readPictures() {
+  const texture = gl.createTexture();
+  const frame = gl.createFramebuffer();
+  for (const [place, image] of Object.entries(images)) {
+    const {naturalWidth: width, naturalHeight: height} = image;
+    const pixels = new Uint8Array(width * height * 4);
+    gl.bindTexture(gl.TEXTURE_2D, texture);
+    gl.pixelStorei(gl.UNPACK_COLORSPACE_CONVERSION_WEBGL, gl.NONE);
+    gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, gl.RGBA, gl.UNSIGNED_BYTE, image);
+    gl.bindFramebuffer(gl.FRAMEBUFFER, frame);
+    gl.framebufferTexture2D(gl.FRAMEBUFFER, gl.COLOR_ATTACHMENT0, gl.TEXTURE_2D, texture, 0);
+    gl.readPixels(0, 0, width, height, gl.RGBA, gl.UNSIGNED_BYTE, pixels);
+    pictures[place] = {width, height, pixels};
+    delete images[place];
+    await turn();
+  }
+  gl.bindFramebuffer(gl.FRAMEBUFFER, null);
+  gl.deleteFramebuffer(frame);
+  gl.deleteTexture(texture);
+}
+
+
+async function play() {
+  state = 'starting';
+  start.disabled = true;
+  start.textContent = 'Starting…';
+  sound.open();
+  sound.wake();
+  try {
+    await turn();
+    if (!gl)
+      openCanvas();
+    if (!gl) {
+      breakOff('This browser shows no WebGL, which the game is drawn with. It may be switched off in the browser\'s settings.');
+      return;
+    }
+    await readPictures();
+    if (state === 'starting')
+      await run();
+  } catch (error) {
+    fail(error);
+  }
+}
+
+
+function run() {
   game = {
-    gl, audio, speaker, music, musicVolume, address,
-    pictures: loaded,
-    sounds: loaded,
+    gl, sharpness, pictures, sound,
     instantiateWasm(imports, ready) {
-      WebAssembly.instantiate(loaded['vorel-defense.wasm'], imports).then(ready);
+      WebAssembly.instantiate(program, imports).then(instance => ready(instance, program)).catch(fail);
       return {};
     },
-    press() {}, // until its window is open
-    closed: () => end('Thank you for playing.')
+    shown() {
+      state = 'playing';
+      front.hidden = true;
+      bar.hidden = false;
+      canvas.focus({preventScroll: true});
+      loadSounds();
+      if (document.hidden)
+        takeRest();
+    },
+    failed: fail,
+    closed() {
+      if (state === 'broken')
+        return;
+      state = 'front';
+      sound.rest();
+      offer('Thank you for playing.', 'Play again', play);
+    }
   };
-  VorelDefense(game);
+  return VorelDefense(game);
 }
 
 
-function end(words) {
-  say(words, 'Play again');
-  start.onclick = play;
-  bar.hidden = true;
-  front.hidden = false;
-  start.focus();
-  audio.suspend();
-  if (document.fullscreenElement)
-    document.exitFullscreen();
+// Nothing moves and nothing is heard until the player goes on.
+function takeRest(words = 'The game waits for you.', mayRestart = false) {
+  if (state !== 'playing')
+    return;
+  state = 'resting';
+  game.rest();
+  sound.rest();
+  element('restWords').textContent = words;
+  element('again').hidden = !mayRestart;
+  rest.showModal();
 }
 
 
-// A browser may refuse; then the window stays as it is.
-function fillScreen() {
-  const done = document.fullscreenElement ? document.exitFullscreen() : document.documentElement.requestFullscreen();
-  done.catch(() => {});
+function goOn() {
+  if (state !== 'resting')
+    return;
+  state = 'playing';
+  rest.close();
+  game.goOn();
+  sound.wake();
+  canvas.focus({preventScroll: true});
+}
+
+
+async function fillScreen() {
+  try {
+    if (document.fullscreenElement) {
+      await document.exitFullscreen();
+    } else {
+      await document.documentElement.requestFullscreen();
+      await screen.orientation.lock('landscape');
+    }
+  } catch {
+    // Then the window stays as it is.
+  }
 }
 
 
 // A button does its work and gives the canvas its keyboard back.
 function onPress(id, deed) {
   element(id).addEventListener('click', () => {
+    canvas.focus({preventScroll: true});
     deed(element(id));
-    canvas.focus();
   });
 }
 
 const toggle = (button, on) => button.setAttribute('aria-pressed', on);
 
-onPress('pause', () => game.press(' '.charCodeAt(0)));
-onPress('restart', () => game.press('r'.charCodeAt(0)));
+onPress('pause', () => game.press(' '));
+// It stands beside the others, and a slip would cost the whole game.
+onPress('restart', () => takeRest('Leave this game and start again?', true));
 onPress('sound', button => {
-  speaker.gain.value = 1 - speaker.gain.value;
-  toggle(button, speaker.gain.value === 1);
+  sound.setOn(!sound.isOn());
+  toggle(button, sound.isOn());
 });
 onPress('full', fillScreen);
+toggle(element('sound'), sound.isOn());
 document.addEventListener('fullscreenchange', () => toggle(element('full'), Boolean(document.fullscreenElement)));
 element('full').hidden = !document.fullscreenEnabled;
 
-for (const fault of ['error', 'unhandledrejection'])
-  window.addEventListener(fault, event => {
-    // Some browsers report as an error, without a cause, what is only a remark.
-    if (!event.error && !event.reason)
-      return;
-    say('The game stopped by itself. That is a fault of ours: please tell us what you did.', 'Load again');
-    start.onclick = () => location.reload();
-    front.hidden = false;
-  });
+element('goOn').addEventListener('click', goOn);
+element('again').addEventListener('click', () => {
+  goOn();
+  game.press('r');
+});
+rest.addEventListener('close', goOn);
+document.addEventListener('visibilitychange', () => document.hidden && takeRest());
 
-// A phone that rings takes the sound away; the next touch brings it back.
-canvas.addEventListener('pointerdown', () => audio && audio.resume());
+// A call takes the sound away; the next press brings it back.
+for (const press of ['pointerup', 'click', 'keydown'])
+  window.addEventListener(press, () => state === 'playing' && sound.wake(), true);
 
-if (!openCanvas())
-  say('This browser shows no WebGL, which the game is drawn with. It may be switched off in the browser\'s settings.');
-else if (typeof WebAssembly !== 'object')
-  say('This browser runs no WebAssembly, which the game is made of. Any current one will do.');
+// Who has come in enlarged must be able to get out again.
+window.visualViewport?.addEventListener('resize', () =>
+  document.documentElement.classList.toggle('enlarged', visualViewport.scale > 1));
+
+if (typeof WebAssembly !== 'object')
+  breakOff('This browser runs no WebAssembly, which the game is made of. Any current one will do.');
 else
   loadAll();

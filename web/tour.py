@@ -167,13 +167,17 @@ def touched(browser, directory):
     until("the pause sign, by its button", lambda p: differs(p, field, 484, 356, 540, 410) > 15)
     require(browser.value("[scrollX, scrollY, visualViewport.scale].join()") == "0,0,1", "The page moved under the finger.")
     finger(browser, *browser.place("restart"))
+    finger(browser, *browser.place("again"))
     until("the title, by the button", lambda p: differs(p, title) < 20)
 
 
-def words(browser, address, before, said, button=""):
-    """The page says what is missing."""
+def words(browser, address, before, said, starts=False):
+    """The page says what is missing, some of it only when the game is to start."""
     script = browser.call("Page.addScriptToEvaluateOnNewDocument", source=before)["identifier"]
     browser.call("Page.navigate", url=address)
+    if starts:
+        browser.offered("Play")
+        browser.value("document.getElementById('start').click()")
     browser.wait_for(f"the words '{said}'", lambda: said in browser.value("document.body.innerText"))
     browser.call("Page.removeScriptToEvaluateOnNewDocument", identifier=script)
 
@@ -197,12 +201,12 @@ def main(page, program, directory):
         sizes(browser, directory, "game", ["pause", "restart", "sound", "full"])
         require(not browser.complaints, "The browser complained:\n" + "\n".join(browser.complaints))
 
-        words(browser, server.address, "HTMLCanvasElement.prototype.getContext = () => null", "no WebGL")
+        words(browser, server.address, "HTMLCanvasElement.prototype.getContext = () => null", "no WebGL", starts=True)
         words(browser, server.address, "delete window.WebAssembly", "no WebAssembly")
         browser.call("Network.setBlockedURLs", urls=["*PauseButton*"])
         words(browser, server.address, "", "PauseButton_64.png did not arrive")
         browser.call("Network.setBlockedURLs", urls=[])
-        browser.offered("Try again")
+        browser.offered("Load again")
         browser.value("document.getElementById('start').click()")
         browser.offered("Play")
     print("The game in the browser is as it should be.")

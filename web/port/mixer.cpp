@@ -16,6 +16,9 @@ Handle* asPointer(std::intptr_t number) {
 }
 
 
+double fromMixer(int volume) { return 1.0 * volume / MIX_MAX_VOLUME; }
+
+
 int asNumber(const void* handle) { return static_cast<int>(reinterpret_cast<std::intptr_t>(handle)); }
 
 } // namespace
@@ -26,7 +29,10 @@ extern "C" {
 int Mix_OpenAudio(int /*frequency*/, Uint16 /*format*/, int /*outputs*/, int /*samples*/) { return 0; }
 
 
-int Mix_AllocateChannels(int count) { return count; }
+int Mix_AllocateChannels(int count) {
+    webChannels(count);
+    return count;
+}
 
 
 void Mix_CloseAudio() { webSilence(); }
@@ -52,12 +58,12 @@ int Mix_PlayChannelTimed(int channel, Mix_Chunk* sound, int /*loops*/, int /*lim
 
 
 int Mix_Volume(int channel, int volume) {
-    webChannelVolume(channel, volume);
+    webChannelVolume(channel, fromMixer(volume));
     return volume;
 }
 
 
-Mix_Music* Mix_LoadMUS(const char* path) { return asPointer<Mix_Music>(webMusic(path)); }
+Mix_Music* Mix_LoadMUS(const char* path) { return asPointer<Mix_Music>(webSound(path)); }
 
 
 void Mix_FreeMusic(Mix_Music* /*music*/) {}
@@ -67,13 +73,13 @@ int Mix_PlayMusic(Mix_Music* music, int loops) { return Mix_FadeInMusicPos(music
 
 
 int Mix_FadeInMusicPos(Mix_Music* music, int /*loops*/, int milliseconds, double /*position*/) {
-    webPlayMusic(asNumber(music), milliseconds);
+    webPlayMusic(asNumber(music), milliseconds / 1000.0);
     return 0;
 }
 
 
 int Mix_VolumeMusic(int volume) {
-    webMusicVolume(volume);
+    webMusicVolume(fromMixer(volume));
     return volume;
 }
 

@@ -79,12 +79,6 @@ int nearestPowerOfTwo(int side) {
 }
 
 
-struct Picture {
-    int width, height;
-    std::vector<std::uint8_t> pixels; // red, green, blue, alpha
-};
-
-
 // One direction of a change of size: each new pixel is the mean of the old ones under it. `step` and `line` are the
 // distances of pixels and of lines in bytes, in the old picture and in the new one.
 struct Run {
@@ -107,18 +101,27 @@ void resample(const std::uint8_t* from, Run old, std::uint8_t* to, Run now, int 
 }
 
 
-Picture resized(const std::uint8_t* pixels, int width, int height, int newWidth, int newHeight) {
-    Picture wide{newWidth, height, std::vector<std::uint8_t>(static_cast<std::size_t>(newWidth) * height * 4)};
-    resample(pixels, {width, 4, width * 4}, wide.pixels.data(), {newWidth, 4, newWidth * 4}, height);
-    Picture result{newWidth, newHeight, std::vector<std::uint8_t>(static_cast<std::size_t>(newWidth) * newHeight * 4)};
-    resample(wide.pixels.data(), {height, newWidth * 4, 4}, result.pixels.data(), {newHeight, newWidth * 4, 4},
-             newWidth);
+using Pixels = std::vector<std::uint8_t>; // red, green, blue, alpha
+
+Pixels resized(const std::uint8_t* pixels, int width, int height, int newWidth, int newHeight) {
+    Pixels wide(static_cast<std::size_t>(newWidth) * height * 4);
+    resample(pixels, {width, 4, width * 4}, wide.data(), {newWidth, 4, newWidth * 4}, height);
+    Pixels result(static_cast<std::size_t>(newWidth) * newHeight * 4);
+    resample(wide.data(), {height, newWidth * 4, 4}, result.data(), {newHeight, newWidth * 4, 4}, newWidth);
     return result;
 }
 
 
-void upload(int level, const Picture& picture) {
-    webUpload(boundTexture, level, picture.width, picture.height, picture.pixels.data());
+// Most pictures have such sides already, and go as they are.
+void upload(const void* given, int width, int height, bool mipmaps) {
+    const auto* pixels = static_cast<const std::uint8_t*>(given);
+    const int newWidth = nearestPowerOfTwo(width);
+    const int newHeight = nearestPowerOfTwo(height);
+    if (newWidth == width && newHeight == height)
+        webUpload(boundTexture, width, height, pixels, mipmaps);
+    else
+        webUpload(boundTexture, newWidth, newHeight, resized(pixels, width, height, newWidth, newHeight).data(),
+                  mipmaps);
 }
 
 } // namespace
@@ -240,23 +243,15 @@ void glBindTexture(GLenum /*target*/, GLuint texture) { boundTexture = texture; 
 void glTexParameteri(GLenum /*target*/, GLenum name, GLint value) { webFilter(boundTexture, name, value); }
 
 
-void glTexImage2D(GLenum /*target*/, GLint level, GLint /*internal*/, GLsizei width, GLsizei height, GLint /*border*/,
-                  GLenum /*format*/, GLenum /*type*/, const GLvoid* pixels) {
-    upload(level, resized(static_cast<const std::uint8_t*>(pixels), width, height, nearestPowerOfTwo(width),
-                          nearestPowerOfTwo(height)));
+void glTexImage2D(GLenum /*target*/, GLint /*level*/, GLint /*internal*/, GLsizei width, GLsizei height,
+                  GLint /*border*/, GLenum /*format*/, GLenum /*type*/, const GLvoid* pixels) {
+    upload(pixels, width, height, false);
 }
 
 
 GLint gluBuild2DMipmaps(GLenum /*target*/, GLint /*internal*/, GLsizei width, GLsizei height, GLenum /*format*/,
                         GLenum /*type*/, const void* pixels) {
-    Picture picture = resized(static_cast<const std::uint8_t*>(pixels), width, height, nearestPowerOfTwo(width),
-                              nearestPowerOfTwo(height));
-    upload(0, picture);
-    for (int level = 1; picture.width > 1 || picture.height > 1; ++level) {
-        picture = resized(picture.pixels.data(), picture.width, picture.height, std::max(picture.width / 2, 1),
-                          std::max(picture.height / 2, 1));
-        upload(level, picture);
-    }
+    upload(pixels, width, height, true);
     return 0;
 }
 

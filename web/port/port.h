@@ -12,26 +12,28 @@ struct Corner {
     float x, y, s, t;
     std::uint8_t colour[4];
 };
+static_assert(sizeof(Corner) == 20, "port.js tells WebGL where in these bytes each part of a corner lies");
 
 /// So many of the next indices show one picture; texture 0 is plain white.
 struct Batch {
     unsigned texture;
     unsigned indices;
 };
+static_assert(sizeof(Batch) == 8, "port.js reads two numbers of 32 bits");
 
 extern "C" {
 
-/// Opens the canvas as the game's window.
-void webOpen();
+/// Opens the canvas as the game's window, which has so many pixels.
+void webOpen(int width, int height);
 /// Closes it and releases what was made for it, and tells the page.
 void webClose();
-/// Makes the canvas black.
+/// Begins a frame: gives the canvas the size that it has on the page, and makes it black.
 void webClear();
 /// Draws triangles; `indices` name their corners.
 void webDraw(const Corner* corners, std::size_t cornerCount, const std::uint16_t* indices, std::size_t indexCount,
              const Batch* batches, std::size_t batchCount);
-/// One level of a texture, which is made with the first.
-void webUpload(unsigned texture, int level, int width, int height, const std::uint8_t* pixels);
+/// Makes a texture of a picture with sides that are powers of two, and its mipmaps if they are wanted.
+void webUpload(unsigned texture, int width, int height, const std::uint8_t* pixels, bool mipmaps);
 /// Sets a parameter of a texture.
 void webFilter(unsigned texture, int name, int value);
 
@@ -46,17 +48,19 @@ int webInput(int input[4]);
 /// The pixels of a picture that the page has loaded, red, green, blue, alpha, to be freed; null if there is none.
 std::uint8_t* webPicture(const char* path, int* width, int* height);
 
-/// The number of a sound that the page has loaded; 0 if there is none.
+/// The number of a sound, or of a piece of music. What has not arrived when it is to be played is not heard.
 int webSound(const char* path);
-/// Plays a sound on the given channel, or on the first free one for -1; returns the channel, -1 if none is free.
+/// Makes the channels that sounds are played on.
+void webChannels(int count);
+/// Plays a sound on the given channel, or on the first free one for -1; returns the channel, -1 if none is free or
+/// nothing would be heard.
 int webPlay(int channel, int sound);
-void webChannelVolume(int channel, int volume);
-/// The number of a piece of music, which is fetched while it plays.
-int webMusic(const char* path);
-/// Plays a piece of music again and again from its beginning, in the place of what was played; takes so many
-/// milliseconds to reach its volume.
-void webPlayMusic(int music, int fadeIn);
-void webMusicVolume(int volume);
+/// Volumes are from 0 to 1.
+void webChannelVolume(int channel, double volume);
+/// Plays a piece of music again and again from its beginning, in the place of what was played; takes so many seconds to
+/// reach its volume.
+void webPlayMusic(int music, double fadeIn);
+void webMusicVolume(double volume);
 /// Ends all sounds and music.
 void webSilence();
 

@@ -1,15 +1,26 @@
-// What only the browser can do for the port; port.h says what each function promises. The page hands over, as fields
-// of Module: gl (the canvas's WebGL context), pictures and sounds (by path), address (where a file of a path is), audio
-// (an AudioContext), speaker (the node that all sound goes to), music (the element that plays it), musicVolume (its node)
-// and closed (a function that is called when the game has ended).
+// What only the browser can do for the port; port.h says what each function promises.
+//
+// The page hands over, as fields of Module: gl (the canvas's WebGL context), sharpness (how many pixels of the canvas there
+// may be for one of the game), pictures (by place: width, height and pixels), sound (the functions of sound.js) and three
+// that are called: shown, when the first frame has been drawn; failed, with what the program broke down with; closed, when
+// the game has ended. The port adds what the page may do with a game that is shown: press(key), rest(), goOn(), halt().
 
 mergeInto(LibraryManager.library, {
   $Screen: {
     textures: {},
+    width: 0, // of the game's window, in its pixels
+    height: 0,
+    area: null, // of the canvas, in pixels of the page
 
     // One program draws everything: a picture tinted by a colour.
-    open: function () {
+    open: function (width, height) {
       var gl = Module['gl'];
+      Screen.width = width;
+      Screen.height = height;
+      Screen.area = gl.canvas.getBoundingClientRect();
+      Screen.observer = new ResizeObserver(function (changes) { Screen.area = changes[changes.length - 1].contentRect; });
+      Screen.observer.observe(gl.canvas);
+
       var program = gl.createProgram();
       [
         [gl.VERTEX_SHADER,
@@ -25,6 +36,7 @@ mergeInto(LibraryManager.library, {
         gl.shaderSource(shader, part[1]);
         gl.compileShader(shader);
         gl.attachShader(program, shader);
+        gl.deleteShader(shader); // with the program
       });
       ['place', 'texel', 'tint'].forEach(function (name, i) { gl.bindAttribLocation(program, i, name); });
       gl.linkProgram(program);
@@ -45,8 +57,23 @@ mergeInto(LibraryManager.library, {
       Screen.program = program;
     },
 
+    // Gives the canvas as many pixels as the page shows, up to what the pictures and the machine are good for. It is black
+    // until it is drawn on, so this is done at the beginning of a frame.
+    fit: function () {
+      var gl = Module['gl'];
+      var scale = Math.min(devicePixelRatio, Module['sharpness'] * Screen.width / Screen.area.width);
+      var width = Math.max(1, Math.round(Screen.area.width * scale));
+      var height = Math.max(1, Math.round(Screen.area.height * scale));
+      if (gl.canvas.width === width && gl.canvas.height === height)
+        return;
+      gl.canvas.width = width;
+      gl.canvas.height = height;
+      gl.viewport(0, 0, gl.drawingBufferWidth, gl.drawingBufferHeight);
+    },
+
     close: function () {
       var gl = Module['gl'];
+      Screen.observer.disconnect();
       for (var texture in Screen.textures)
         gl.deleteTexture(Screen.textures[texture]);
       gl.deleteBuffer(Screen.corners);
@@ -55,9 +82,10 @@ mergeInto(LibraryManager.library, {
     }
   },
 
+  webClear__deps: ['$Screen'],
   webClear: function () {
     var gl = Module['gl'];
-    gl.viewport(0, 0, gl.drawingBufferWidth, gl.drawingBufferHeight);
+    Screen.fit();
     gl.clear(gl.COLOR_BUFFER_BIT);
   },
 
@@ -75,11 +103,13 @@ mergeInto(LibraryManager.library, {
   },
 
   webUpload__deps: ['$Screen'],
-  webUpload: function (texture, level, width, height, pixels) {
+  webUpload: function (texture, width, height, pixels, mipmaps) {
     var gl = Module['gl'];
     gl.bindTexture(gl.TEXTURE_2D, Screen.textures[texture] = Screen.textures[texture] || gl.createTexture());
-    gl.texImage2D(gl.TEXTURE_2D, level, gl.RGBA, width, height, 0, gl.RGBA, gl.UNSIGNED_BYTE,
+    gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, width, height, 0, gl.RGBA, gl.UNSIGNED_BYTE,
       HEAPU8.subarray(pixels, pixels + width * height * 4));
+    if (mipmaps)
+      gl.generateMipmap(gl.TEXTURE_2D);
   },
 
   webFilter__deps: ['$Screen'],
@@ -89,29 +119,15 @@ mergeInto(LibraryManager.library, {
     gl.texParameteri(gl.TEXTURE_2D, name, value);
   },
 
-  // WebGL hands the pixels over as they are in the file; a 2-D canvas would lose the colours of transparent ones.
   webPicture__deps: ['malloc'],
   webPicture: function (path, width, height) {
-    var gl = Module['gl'];
-    var image = Module['pictures'][UTF8ToString(path)];
-    if (!image)
+    var picture = Module['pictures'][UTF8ToString(path)];
+    if (!picture)
       return 0;
-    var w = image.naturalWidth;
-    var h = image.naturalHeight;
-    var texture = gl.createTexture();
-    var frame = gl.createFramebuffer();
-    gl.bindTexture(gl.TEXTURE_2D, texture);
-    gl.pixelStorei(gl.UNPACK_COLORSPACE_CONVERSION_WEBGL, gl.NONE);
-    gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, gl.RGBA, gl.UNSIGNED_BYTE, image);
-    gl.bindFramebuffer(gl.FRAMEBUFFER, frame);
-    gl.framebufferTexture2D(gl.FRAMEBUFFER, gl.COLOR_ATTACHMENT0, gl.TEXTURE_2D, texture, 0);
-    var pixels = _malloc(w * h * 4);
-    gl.readPixels(0, 0, w, h, gl.RGBA, gl.UNSIGNED_BYTE, HEAPU8.subarray(pixels, pixels + w * h * 4));
-    gl.bindFramebuffer(gl.FRAMEBUFFER, null);
-    gl.deleteFramebuffer(frame);
-    gl.deleteTexture(texture);
-    HEAP32[width >> 2] = w;
-    HEAP32[height >> 2] = h;
+    var pixels = _malloc(picture.pixels.length);
+    HEAPU8.set(picture.pixels, pixels);
+    HEAP32[width >> 2] = picture.width;
+    HEAP32[height >> 2] = picture.height;
     return pixels;
   },
 
@@ -145,14 +161,42 @@ mergeInto(LibraryManager.library, {
       return Math.min(steps, Clock.MOST);
     },
 
+    wake: null, // goes on with the game, which waits for its next step
+    request: 0, // for a frame of the display
+    resting: false,
+
     wait: function (wake) {
-      requestAnimationFrame(function (now) {
-        var steps = Clock.due(now);
-        if (steps > 0)
-          wake(steps);
-        else
-          Clock.wait(wake);
-      });
+      var first = !Clock.wake;
+      Clock.wake = wake;
+      Clock.ask();
+      if (first)
+        Module['shown']();
+    },
+
+    ask: function () { Clock.request = requestAnimationFrame(Clock.frame); },
+
+    frame: function (now) {
+      var steps = Clock.due(now);
+      if (steps === 0) {
+        Clock.ask();
+        return;
+      }
+      try {
+        Clock.wake(steps);
+      } catch (error) {
+        Module['failed'](error);
+      }
+    },
+
+    rest: function () {
+      cancelAnimationFrame(Clock.request);
+      Clock.resting = true;
+    },
+
+    goOn: function () {
+      Clock.resting = false;
+      Clock.last = null;
+      Clock.ask();
     }
   },
 
@@ -162,41 +206,74 @@ mergeInto(LibraryManager.library, {
   },
 
   // The numbers of events and keys are those of SDL's headers.
-  $Input__deps: ['$Sound'],
+  $Input__deps: ['$Clock', '$Screen'],
   $Input: {
     KEY: 0x300, MOTION: 0x400, DOWN: 0x401, UP: 0x402,
+    BUTTONS: [[1, 1], [4, 2], [2, 3]], // each one's bit in the browser, and its number
+    ESCAPE: 27,
     queue: [],
+    held: null, // the pointer that holds the canvas
+    buttons: 0, // of it, that are down: the browser's bits
 
     push: function (type, which, event) {
+      if (Clock.resting)
+        return;
       var area = Module['gl'].canvas.getBoundingClientRect();
       Input.queue.push(event
-        ? [type, which, (event.clientX - area.left) * 1024 / area.width, (event.clientY - area.top) * 768 / area.height]
+        ? [type, which, (event.clientX - area.left) * Screen.width / area.width,
+          (event.clientY - area.top) * Screen.height / area.height]
         : [type, which, 0, 0]);
     },
 
-    // What the browser or the page's own buttons need a key for, the game doesn't get.
+    // The character on a key; where a layout has no Latin letters, the one that other keyboards have in its place.
+    character: function (event) {
+      var place = /^Key([A-Z])$/.exec(event.code);
+      if (/^[!-~]$/.test(event.key))
+        return event.key.toLowerCase().charCodeAt(0);
+      if (event.code === 'Space')
+        return 32;
+      return place ? place[1].toLowerCase().charCodeAt(0) : 0;
+    },
+
+    // What the browser or the page's own buttons need a key for, the game doesn't get; nor the Escape that leaves the full
+    // screen.
     key: function (event) {
-      var forOthers = event.ctrlKey || event.altKey || event.metaKey || /^(Tab|F\d+)$/.test(event.key);
-      if (forOthers || event.target.closest && event.target.closest('a, button'))
+      var escape = event.key === 'Escape';
+      var forOthers = Clock.resting || event.ctrlKey || event.altKey || event.metaKey || /^(Tab|F\d+)$/.test(event.key) ||
+        escape && document.fullscreenElement || event.target.closest && event.target.closest('a, button, dialog');
+      if (forOthers)
         return;
       event.preventDefault();
       if (!event.repeat)
-        Input.push(Input.KEY, event.key === 'Escape' ? 27 : event.key.length === 1 ? event.key.toLowerCase().charCodeAt(0) : 0);
+        Input.push(Input.KEY, escape ? Input.ESCAPE : Input.character(event));
     },
 
-    // A finger is the left button; a second one is not heard. The second button of a mouse that holds one comes as a
-    // motion.
+    // The canvas belongs to the first pointer that presses it, until that has let go of all its buttons or is taken away;
+    // what other fingers do meanwhile, there or beside it, is not heard. A finger is the left button.
     pointer: function (event) {
-      if (!event.isPrimary)
+      if (Input.held !== null && event.pointerId !== Input.held)
         return;
-      Input.push(Input.MOTION, 0, event);
-      if (event.type === 'pointerdown') {
+      var taken = event.type === 'pointercancel' || event.type === 'lostpointercapture';
+      if (!taken)
+        Input.push(Input.MOTION, 0, event);
+      if (event.type === 'pointerdown' && Input.held === null) {
         event.target.setPointerCapture(event.pointerId);
+        Input.held = event.pointerId;
         event.target.focus({preventScroll: true});
-        Input.push(Input.DOWN, event.button + 1, event);
-      } else if (event.type !== 'pointermove') {
-        Input.push(Input.UP, event.button + 1, event);
       }
+      if (Input.held !== null)
+        Input.press(taken ? 0 : event.buttons, event);
+    },
+
+    // A second button of a mouse comes as a motion: so it is asked which buttons are down now.
+    press: function (buttons, event) {
+      Input.BUTTONS.forEach(function (button) {
+        if ((Input.buttons ^ buttons) & button[0])
+          Input.push(buttons & button[0] ? Input.DOWN : Input.UP, button[1], event);
+      });
+      Input.buttons = buttons;
+      if (buttons === 0)
+        Input.held = null;
     },
 
     open: function () {
@@ -208,14 +285,17 @@ mergeInto(LibraryManager.library, {
         });
       }
       listen(window, 'keydown', Input.key);
-      listen(canvas, 'pointermove pointerdown pointerup pointercancel', Input.pointer);
+      listen(canvas, 'pointermove pointerdown pointerup pointercancel lostpointercapture', Input.pointer);
+      // With Ctrl, or two fingers on a touchpad, it changes the size of the page.
       listen(canvas, 'wheel', function (event) {
+        if (event.ctrlKey)
+          return;
+        event.preventDefault();
         var button = event.deltaY < 0 ? 4 : 5;
         Input.push(Input.DOWN, button, event);
         Input.push(Input.UP, button, event);
       });
-      listen(canvas, 'wheel contextmenu', function (event) { event.preventDefault(); });
-      listen(document, 'visibilitychange', Sound.heed);
+      listen(canvas, 'contextmenu', function (event) { event.preventDefault(); });
     }
   },
 
@@ -228,11 +308,20 @@ mergeInto(LibraryManager.library, {
     return 1;
   },
 
-  webOpen__deps: ['$Screen', '$Input'],
-  webOpen: function () {
-    Screen.open();
+  webOpen__deps: ['$Screen', '$Input', '$Clock'],
+  webOpen: function (width, height) {
+    Screen.open(width, height);
     Input.open();
-    Module['press'] = function (key) { Input.push(Input.KEY, key); };
+    Module['press'] = function (key) { Input.push(Input.KEY, key.charCodeAt(0)); };
+    Module['rest'] = function () {
+      Input.press(0);
+      Clock.rest();
+    };
+    Module['goOn'] = Clock.goOn;
+    Module['halt'] = function () {
+      Clock.rest();
+      Input.events.abort();
+    };
   },
 
   webClose__deps: ['$Screen', '$Input'],
@@ -242,110 +331,22 @@ mergeInto(LibraryManager.library, {
     Module['closed']();
   },
 
-  $Sound: {
-    FULL: 128,
-    paths: [''],
-    channels: [],
-    volume: 128, // of the music
+  $places: [''], // of sounds and music, by their numbers
 
-    channel: function (i) {
-      if (!Sound.channels[i]) {
-        var volume = Module['audio'].createGain();
-        volume.connect(Module['speaker']);
-        Sound.channels[i] = {volume: volume, source: null};
-      }
-      return Sound.channels[i];
-    },
+  webSound__deps: ['$places'],
+  webSound: function (path) { return places.push(UTF8ToString(path)) - 1; },
 
-    stop: function (channel) {
-      if (channel.source)
-        channel.source.stop();
-      channel.source = null;
-    },
+  webChannels: function (count) { Module['sound'].setChannels(count); },
 
-    // Lets the music rise from silence to its volume within so many seconds.
-    fade: function (seconds) {
-      var now = Module['audio'].currentTime;
-      var gain = Module['musicVolume'].gain;
-      gain.cancelScheduledValues(now);
-      gain.setValueAtTime(seconds > 0 ? 0 : Sound.volume / Sound.FULL, now);
-      gain.linearRampToValueAtTime(Sound.volume / Sound.FULL, now + seconds);
-    },
+  webPlay__deps: ['$places'],
+  webPlay: function (channel, sound) { return Module['sound'].play(channel, places[sound]); },
 
-    // A piece that can't be played leaves the game without music, as a missing file does elsewhere. One that is
-    // interrupted, by the next or by a page that is left, is no fault.
-    play: function () {
-      Module['music'].play().catch(function (error) {
-        if (error.name !== 'AbortError')
-          console.warn('The music can\'t be played: ' + error.message);
-      });
-    },
+  webChannelVolume: function (channel, volume) { Module['sound'].setChannelVolume(channel, volume); },
 
-    // Nobody listens to a page that can't be seen.
-    heed: function () {
-      if (document.hidden) {
-        Module['audio'].suspend();
-        Module['music'].pause();
-      } else {
-        Module['audio'].resume();
-        Sound.play();
-      }
-    }
-  },
+  webPlayMusic__deps: ['$places'],
+  webPlayMusic: function (music, fadeIn) { Module['sound'].playMusic(places[music], fadeIn); },
 
-  webSound__deps: ['$Sound'],
-  webSound: function (path) {
-    var name = UTF8ToString(path);
-    return Module['sounds'][name] ? Sound.paths.push(name) - 1 : 0;
-  },
+  webMusicVolume: function (volume) { Module['sound'].setMusicVolume(volume); },
 
-  webPlay__deps: ['$Sound'],
-  webPlay: function (wanted, sound) {
-    var CHANNELS = 10;
-    var i = wanted;
-    if (i < 0)
-      for (i = 0; i < CHANNELS && Sound.channel(i).source; ++i)
-        ;
-    if (i === CHANNELS || !sound)
-      return -1;
-    var channel = Sound.channel(i);
-    Sound.stop(channel);
-    var source = channel.source = Module['audio'].createBufferSource();
-    source.buffer = Module['sounds'][Sound.paths[sound]];
-    source.connect(channel.volume);
-    source.onended = function () {
-      if (channel.source === source)
-        channel.source = null;
-    };
-    source.start();
-    return i;
-  },
-
-  webChannelVolume__deps: ['$Sound'],
-  webChannelVolume: function (channel, volume) { Sound.channel(channel).volume.gain.value = volume / Sound.FULL; },
-
-  webMusic__deps: ['$Sound'],
-  webMusic: function (path) { return Sound.paths.push(UTF8ToString(path)) - 1; },
-
-  webPlayMusic__deps: ['$Sound'],
-  webPlayMusic: function (music, fadeIn) {
-    Module['music'].src = Module['address'](Sound.paths[music]);
-    Sound.fade(fadeIn / 1000);
-    Sound.play();
-  },
-
-  webMusicVolume__deps: ['$Sound'],
-  webMusicVolume: function (volume) {
-    Sound.volume = volume;
-    Sound.fade(0);
-  },
-
-  webSilence__deps: ['$Sound'],
-  webSilence: function () {
-    Sound.channels.forEach(function (channel) {
-      Sound.stop(channel);
-      channel.volume.disconnect();
-    });
-    Module['music'].pause();
-  }
+  webSilence: function () { Module['sound'].silence(); }
 });

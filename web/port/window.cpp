@@ -52,7 +52,7 @@ void SDL_WM_SetCaption(const char* /*title*/, const char* /*icon*/) {}
 
 
 SDL_Surface* SDL_SetVideoMode(int width, int height, int /*bits*/, Uint32 /*flags*/) {
-    webOpen();
+    webOpen(width, height);
     static SDL_Surface* window = newSurface(width, height, nullptr);
     return window;
 }

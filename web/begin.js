@@ -1,0 +1,33 @@
+// The page's first script, in words that any browser knows: loads the others, or says why they can't be run here.
+(function () {
+  var start = document.getElementById('start');
+  var progress = document.getElementById('progress');
+  var script = document.createElement('script');
+
+  function say(words) {
+    document.getElementById('message').textContent = words;
+    start.hidden = true;
+    progress.hidden = true;
+  }
+
+  if (location.protocol === 'file:') {
+    say('Opened as a file, the page may not load the game: it has to come from a web server.');
+    return;
+  }
+  if (!('noModule' in script) || !Array.prototype.at || !window.HTMLDialogElement) {
+    say('This browser is too old for the game. Any current one will do.');
+    return;
+  }
+  start.hidden = false;
+  progress.hidden = false;
+  script.type = 'module';
+  script.src = 'page.js?@BUILD@';
+  script.onerror = function () {
+    say('The page did not arrive as a whole: one of its scripts is missing.');
+    start.hidden = false;
+    start.disabled = false;
+    start.textContent = 'Load again';
+    start.onclick = function () { location.reload(); };
+  };
+  document.head.appendChild(script);
+})();
