@@ -117,10 +117,25 @@ async function load(file) {
 }
 
 
-// The page's own picture comes first: it is what there is to see meanwhile.
+// The page's own picture is what there is to see meanwhile: so all else waits until that is on the screen, as far as the
+// browser tells. In a tab that nobody looks at it won't be.
+async function frontIsSeen() {
+  const LONGEST = 1000; // milliseconds
+  const type = 'largest-contentful-paint';
+  const shown = front.querySelector('img');
+  await shown.decode().catch(nevermind);
+  if (PerformanceObserver.supportedEntryTypes.includes(type))
+    await new Promise(done => {
+      const seen = list => list.getEntries().some(({element}) => element === shown) && done();
+      new PerformanceObserver(seen).observe({type, buffered: true});
+      setTimeout(done, LONGEST);
+    });
+}
+
+
 async function loadAll() {
   progress.max = Object.values(files.before).reduce((sum, bytes) => sum + bytes, 0);
-  await front.querySelector('img').decode().catch(nevermind);
+  await frontIsSeen();
   try {
     await Promise.all(Object.keys(files.before).map(load));
   } catch (error) {
