@@ -251,17 +251,17 @@ mergeInto(LibraryManager.library, {
     // The canvas belongs to the first pointer that presses it, until that has let go of all its buttons or is taken away;
     // what other fingers do meanwhile, there or beside it, is not heard. A finger is the left button.
     pointer: function (event) {
-      if (Input.held !== null && event.pointerId !== Input.held)
-        return;
-      var taken = event.type === 'pointercancel' || event.type === 'lostpointercapture';
-      if (!taken)
-        Input.push(Input.MOTION, 0, event);
-      if (event.type === 'pointerdown' && Input.held === null) {
+      if (Input.held === null && event.type === 'pointerdown') {
         event.target.setPointerCapture(event.pointerId);
-        Input.held = event.pointerId;
         event.target.focus({preventScroll: true});
+        Input.held = event.pointerId;
       }
-      if (Input.held !== null)
+      var holds = Input.held === event.pointerId;
+      var hovers = Input.held === null && event.type === 'pointermove' && event.pointerType !== 'touch';
+      var taken = event.type === 'pointercancel' || event.type === 'lostpointercapture';
+      if (!taken && (holds || hovers))
+        Input.push(Input.MOTION, 0, event);
+      if (holds)
         Input.press(taken ? 0 : event.buttons, event);
     },
 
