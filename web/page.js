@@ -229,6 +229,10 @@ function run() {
       return {};
     },
     shown() {
+      if (state === 'broken') {
+        game.halt();
+        return;
+      }
       state = 'playing';
       front.hidden = true;
       bar.hidden = false;
