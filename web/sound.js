@@ -35,7 +35,7 @@ export function isOn() {
 export function setOn(on) {
   off = !on;
   if (speaker)
-    speaker.gain.value = on ? 1 : 0;
+    speaker.gain.value = off ? 0 : 1;
   try {
     localStorage.setItem(NAME, on ? 'on' : 'off');
   } catch {
@@ -55,7 +55,7 @@ export function open() {
   context = new AudioContext();
   context.onstatechange = () => awake && wake();
   speaker = context.createGain();
-  setOn(!off);
+  speaker.gain.value = off ? 0 : 1;
   speaker.connect(context.destination);
   music = new Audio();
   music.loop = true;
