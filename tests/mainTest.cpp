@@ -1,9 +1,5 @@
 #include "standin/standin.h"
 
-#include <string>
-#include <utility>
-#include <vector>
-
 extern "C" int SDL_main(int argc, char** argv);
 
 /// What is seen and heard of a session: the screen, or the sign of the pause on it, with the sounds that begin; and how

@@ -29,8 +29,9 @@ TEST_F(Pictures, takeScreenshotShowsWhatTheWindowShowsWhateverItsAlpha) {
     EXPECT_EQ(takeScreenshot("shot.bmp"), 0);
     EXPECT_EQ(calls, Lines{"read 3 5 1 2"})
         << "the whole viewport, from its corner (3, 5): one pixel wide and two high";
-    const auto firstRow = files.saved.begin() + 54; // behind the headers, blue, green and red
-    EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40}));
+    const auto firstRow = files.saved.begin() + files.saved.at(10); // the header says where it begins
+    EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40}))
+        << "blue, green and red, and a byte that fills the row up to four";
     EXPECT_EQ(takeScreenshot("nowhere.bmp"), -1);
 }
 

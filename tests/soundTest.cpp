@@ -3,8 +3,6 @@
 
 #include <fstream>
 #include <ios>
-#include <string>
-#include <utility>
 
 struct Sound : StandinTest {};
 

@@ -3,10 +3,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <deque>
-#include <tuple>
-#include <utility>
-#include <vector>
 
 static const Ground meadow(32, std::vector<int>(24, 0));
 struct GroundTest : StandinTest {};

@@ -3,9 +3,7 @@
 #include "utility/utility.h"
 
 #include <cmath>
-#include <cstddef>
 #include <fstream>
-#include <string>
 
 constexpr int STEPS = 7500, STRETCH = 500, STEPS_TO_NEXT_FRAME = 7;
 

@@ -2,9 +2,7 @@
 #include "standin/standin.h"
 
 #include <cstdlib>
-#include <functional>
 #include <random>
-#include <utility>
 
 // A player who does anything at any time, in any state. VOREL_SOAK_STEPS asks for a longer life.
 TEST_F(GameTest, nothingThatAPlayerDoesBreaksTheGame) {

@@ -3,18 +3,10 @@
 // back are the last texture's.
 
 #include "standin/standin.h"
-#include "utility/utility.h"
 
 #include <algorithm>
 #include <cmath>
-#include <complex>
-#include <cstddef>
 #include <math.h>
-#include <string>
-#include <vector>
-
-#include <algorithm>
-#include <cmath>
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <string>
 
 Lines linesStarting(const std::string& start, const Lines& lines) {
     Lines found;

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <complex>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
