@@ -87,10 +87,9 @@ TEST_F(MainLoop, escapeQuits) { EXPECT_EQ(runSession({key(SDLK_ESCAPE), frames(1
 
 
 TEST_F(MainLoop, onlyTheLeftButtonReachesTheShop) {
-    for (const Uint8 button : BUTTONS) {
-        const std::string built = button == SDL_BUTTON_LEFT ? BUILT : "";
-        EXPECT_EQ(runSession({click(SHOP, button), click(FIELD)}), (Story{{"field" + MUSIC + built, 1}}));
-    }
+    for (const Uint8 button : BUTTONS)
+        EXPECT_EQ(runSession({click(SHOP, button), click(FIELD)}),
+                  (Story{{"field" + MUSIC + (button == SDL_BUTTON_LEFT ? BUILT : ""), 1}}));
 }
 
 

@@ -1,15 +1,10 @@
 #include "Entity/Entity.h"
+
 #include "Entity/Beam.h"
 #include "Entity/Ennemi.h"
 #include "Entity/Tower.h"
-#include "Entity/Weapon.h"
 #include "Game/GameTest.h"
 #include "standin/standin.h"
-
-#include <cstddef>
-#include <string>
-#include <tuple>
-#include <utility>
 
 /// One object of each class, as the game builds them. `tower` stands where the game's own does, but is another: grunts
 /// walk to the game's, and the turret, at (100, 100) like the jet, drinks from this one.
@@ -114,14 +109,17 @@ TEST_F(Combat, aBurstJetStandsAsASplash) {
 }
 
 
-TEST_F(Combat, aJetBurstsAndHurtsOnce) {
-    for (Ennemi* touched : {&grunt, &other}) {
-        jet.collide(touched);
-        touched->collide(&jet);
-    }
+TEST_F(Combat, aJetBurstsOnce) {
+    jet.onCollideEnnemi(&grunt);
+    jet.onCollideEnnemi(&other);
     EXPECT_EQ(mixer.sounds, Lines{"WaterSplash"});
-    EXPECT_EQ(grunt.getHealth(), 50);
-    EXPECT_EQ(other.getHealth(), 100) << "a burst jet hurts nobody";
+}
+
+
+TEST_F(Combat, aBurstJetHurtsNobody) {
+    jet.onCollideEnnemi(&grunt);
+    other.onCollideBeam(&jet);
+    EXPECT_EQ(other.getHealth(), 100);
 }
 
 
@@ -165,7 +163,7 @@ TEST_F(Combat, oneDeathInFiveIsDrawnWrong) {
     // On purpose: those that roll 81 or more of 100 show the wrong sheet, as large as a grunt.
     for (const auto& [roll, sheet] :
          {std::pair(80, "VorelDefense_explosions_64"), {181, "VorelDefense_grunts 84,336"}}) {
-        dice.rolls = {roll};
+        dice = {roll};
         grunt.removeHealth(100);
         EXPECT_EQ(linesStarting(sheet, drawnBy(grunt)).size(), 1U) << roll;
     }

@@ -5,6 +5,8 @@
 #include <tuple>
 #include <utility>
 
+#include "standin/standin.h"
+
 TEST_F(GameTest, nobodyEntersOnTheTitleButItsTimeCounts) {
     for (int step = 0; step < 60; ++step)
         game.update(0.02);
@@ -22,13 +24,13 @@ TEST_F(GameTest, restartLeavesNothingButTheGround) {
     game.activeTourelle();
     runSteps(2750);
     ASSERT_GT(money(), 1000) << "paid between waves";
-    dice.rolls = {99};
+    dice = {99};
     game.restart();
     game.restart();
     EXPECT_EQ(frameLines(), title);
     runSteps(100);
     EXPECT_EQ(frameLines(), field) << "with money, water and grunts as in a new game, and without turrets";
-    EXPECT_EQ(dice.rolls.size(), 1U) << "no dice are thrown for another ground";
+    EXPECT_EQ(dice.size(), 1U) << "no dice are thrown for another ground";
 }
 
 

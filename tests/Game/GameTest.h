@@ -1,16 +1,16 @@
 #ifndef GAME_TEST_H
 #define GAME_TEST_H
 
-// What every test of the game uses comes with it. IWYU pragma: begin_exports
+// What every test of the game uses comes with it.
+// IWYU pragma: begin_exports
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
-#include "audio.h"
+#include "Vecteur/Vecteur2D.h"
+#include "sound.h"
 #include "standin/standin.h"
 // IWYU pragma: end_exports
 
 #include <cmath>
-#include <string>
-#include <utility>
 
 /// A turret as the shop builds it, but for what its shots cost and its jets do.
 inline Weapon turretAt(double x, double y, double waterConsume = 1, double damage = 50) {

@@ -1,6 +1,8 @@
 #include "Game/Game.h"
 #include "standin/standin.h"
 
+#include "standin/standin.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -25,8 +27,8 @@ TEST_F(GroundTest, creerTacheMarksADiscOfWholeCellsCutAtTheMapsEdge) {
 TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
     // Nine rolls for each of four groups: chance, column and row, then radius, row and column of each of two patches.
     // The fifth stands in the middle and rolls no place: seven.
-    dice.rolls = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
-                  1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 5, 3, 9, 4,  7};
+    dice = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
+            1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 5, 3, 9, 4,  7};
     Ground expected = meadow;
     for (const auto& [x, y, radius] :
          {std::tuple(9, 7, 2), {8, 8, 3}, {25, 5, 2}, {9, 17, 2}, {25, 19, 2}, {15, 13, 2}, {16, 12, 3}})
@@ -57,9 +59,9 @@ TEST_F(GroundTest, lisserGivesEveryNeighbourhoodItsTile) {
 
 TEST_F(GroundTest, drawSolShowsTheTileOfEachCellInItsPlace) {
     const std::deque<int> rolls{0, 5, 3, 4, 1, 2, 9, 0, 1, 0, 3, 2, 7, 2, 0};
-    dice.rolls = rolls;
+    dice = rolls;
     Game(1024, 768).drawSol(20);
-    dice.rolls = rolls;
+    dice = rolls;
     const Ground tiles = lisser(creation_sol());
     ASSERT_EQ(screen.longBatch.size(), 4U * 32 * 24);
     for (int cell = 0; cell < 32 * 24; ++cell) {

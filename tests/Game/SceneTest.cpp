@@ -1,6 +1,4 @@
 #include "Game/GameTest.h"
-#include "openglDrawCircle.h"
-#include "standin/standin.h"
 
 TEST_F(GameTest, theFieldIsDrawnBackToFront) {
     game.addWeapon(turretAt(300, 300, 20));
@@ -23,11 +21,4 @@ TEST_F(GameTest, anEmptyTankShowsNoRedBandInTheGauge) {
     runSteps(1);
     spill(100);
     EXPECT_EQ(frameLines("BottleContent").size(), 1U);
-}
-
-
-TEST_F(GameTest, openglDrawCircleTakesAVectorOrItsCoordinates) {
-    openglDrawCircle(Vecteur2D(5, 7), 10, 4);
-    openglDrawCircle(5.0, 7.0, 10.0, 4);
-    EXPECT_EQ(screen.drawn, Lines(2, "no texture 15,7 5,17 -5,7 15,7 last of 5 colour 1 0 0 0.1"));
 }

@@ -2,6 +2,8 @@
 #include "standin/standin.h"
 #include "utility/utility.h"
 
+#include "standin/standin.h"
+
 #include <cmath>
 #include <fstream>
 

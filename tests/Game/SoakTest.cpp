@@ -1,6 +1,8 @@
 #include "Game/GameTest.h"
 #include "standin/standin.h"
 
+#include "standin/standin.h"
+
 #include <cstdlib>
 #include <random>
 

@@ -17,10 +17,10 @@ extern "C" {
 time_t time(time_t*) noexcept { return clocks.calendar; }
 void srand(unsigned int seed) noexcept { call("seed of the dice", seed); }
 int rand() noexcept {
-    if (dice.rolls.empty())
+    if (dice.empty())
         return 60;
-    const int roll = dice.rolls.front();
-    dice.rolls.pop_front();
+    const int roll = dice.front();
+    dice.pop_front();
     return roll;
 }
 Uint32 SDL_GetTicks() { return clocks.ticks; }

@@ -1,13 +1,13 @@
 #include "standin/standin.h"
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
 
 Lines linesStarting(const std::string& start, const Lines& lines) {
     Lines found;
-    std::copy_if(lines.begin(), lines.end(), std::back_inserter(found),
-                 [&start](const std::string& line) { return line.compare(0, start.size(), start) == 0; });
+    for (const std::string& line : lines)
+        if (line.compare(0, start.size(), start) == 0)
+            found.push_back(line);
     return found;
 }
 

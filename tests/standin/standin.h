@@ -1,7 +1,8 @@
 #ifndef STANDIN_H
 #define STANDIN_H
 
-// What every test uses comes with it. IWYU pragma: begin_exports
+// What every test uses comes with it.
+// IWYU pragma: begin_exports
 #include "utility/utility.h"
 
 #include <SDL.h>
@@ -116,13 +117,25 @@ struct Place {
 /// goes when the frame is shown.
 using Deed = std::vector<SDL_Event>;
 inline Deed frames(int count) { return Deed(count); }
-Deed key(SDLKey symbol);
-Deed mouse(SDL_EventType type, Place place = {}, Uint8 button = SDL_BUTTON_LEFT);
+inline Deed key(SDLKey symbol) {
+    SDL_Event event{};
+    event.type = SDL_KEYDOWN;
+    event.key.keysym.sym = symbol;
+    return {event};
+}
+// SDL counts rows from the window's top. An event of a motion has its place where that of a button has it.
+inline Deed mouse(SDL_EventType type, Place place = {}, Uint8 button = SDL_BUTTON_LEFT) {
+    SDL_Event event{};
+    event.button = {Uint8(type), 0, button, 0, Uint16(place.x), Uint16(768 - place.y)};
+    return {event};
+}
 inline Deed moveTo(Place place) { return mouse(SDL_MOUSEMOTION, place); }
 inline Deed press(Place place) { return mouse(SDL_MOUSEBUTTONDOWN, place); }
 inline Deed release(Uint8 button) { return mouse(SDL_MOUSEBUTTONUP, {}, button); }
 /// Presses a button and lets go of it.
-Deed click(Place place, Uint8 button = SDL_BUTTON_LEFT);
+inline Deed click(Place place, Uint8 button = SDL_BUTTON_LEFT) {
+    return {mouse(SDL_MOUSEBUTTONDOWN, place, button)[0], release(button)[0]};
+}
 
 inline struct Window {
     /// The full-screen modes with OpenGL, as SDL lists them, and whether one can be set.
@@ -146,10 +159,8 @@ inline struct Clocks {
     Uint32 ticks = 0xFFFFFFF0, workOfAFrame = 0;
 } clocks;
 
-inline struct Dice {
-    /// What rand() answers next; when they are used up, 60, which leaves the ground without patches.
-    std::deque<int> rolls;
-} dice;
+/// What rand() answers next; when they are used up, 60, which leaves the ground without patches.
+inline std::deque<int> dice;
 
 /// files.cpp
 /// Red, green, blue and alpha.

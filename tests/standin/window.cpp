@@ -7,27 +7,6 @@
 
 constexpr Uint32 FULL_SCREEN = SDL_FULLSCREEN | SDL_OPENGL;
 
-
-Deed key(SDLKey symbol) {
-    SDL_Event event{};
-    event.type = SDL_KEYDOWN;
-    event.key.keysym.sym = symbol;
-    return {event};
-}
-
-
-// SDL counts rows from the window's top. An event of a motion has its place where that of a button has it.
-Deed mouse(SDL_EventType type, Place place, Uint8 button) {
-    SDL_Event event{};
-    event.button = {Uint8(type), 0, button, 0, Uint16(place.x), Uint16(768 - place.y)};
-    return {event};
-}
-
-
-Deed click(Place place, Uint8 button) {
-    return {mouse(SDL_MOUSEBUTTONDOWN, place, button)[0], mouse(SDL_MOUSEBUTTONUP, place, button)[0]};
-}
-
 extern "C" {
 
 int SDL_Init(Uint32 what) { return call("init", what == SDL_INIT_VIDEO ? "video" : "other"); }
