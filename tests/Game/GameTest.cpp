@@ -54,11 +54,11 @@ TEST_F(GameTest, theDefeatFadesInAnewAfterARestart) {
 
 
 TEST_F(GameTest, spawnEnnemiChoosesAPlaceOutsideTheEdgesByTheClock) {
-    // clang-format off
-    const std::pair<long long, Vecteur2D> cases[] = {
-        {LEFT_OF_TOWER + (1LL << 32), {-30, 351.9975}}, {ABOVE_TOWER, {511.9981, 798}}, // the low 32 bits choose
-        {FAR_RIGHT, {1054, 940.0601}}, {BELOW_TOWER, {512.0011, -30}}};
-    // clang-format on
+    // Close to the end of each edge that another follows. The low 32 bits choose.
+    const std::pair<long long, Vecteur2D> cases[] = {{101 + (1LL << 32), {-30, 1022.5747}},
+                                                     {19, {765.1972, 798}},
+                                                     {21, {1054, 940.0601}},
+                                                     {139199, {512.0011, -30}}};
     for (const auto& [nanoseconds, place] : cases) {
         clocks.nanoseconds = nanoseconds;
         EXPECT_NEAR(game.spawnEnnemi().distance(place), 0, 1e-4) << place;

@@ -146,9 +146,9 @@ inline struct Window {
     std::function<void()> onFrame = [] {};
 } window;
 
-/// clocksAndDice.cpp. The system clock chooses where a grunt enters: at these nanoseconds at (-30, 351.9975),
-/// (511.9981, 798), (1054, 940.0601) and (512.0011, -30).
-constexpr long long LEFT_OF_TOWER = 60911, ABOVE_TOWER = 224874, FAR_RIGHT = 21, BELOW_TOWER = 139199;
+/// clocksAndDice.cpp. The system clock chooses where a grunt enters: at these nanoseconds at (-30, 351.9975) and
+/// (511.9981, 798).
+constexpr long long LEFT_OF_TOWER = 60911, ABOVE_TOWER = 224874;
 
 inline struct Clocks {
     /// What time() answers, in seconds, and the system clock.
