@@ -6,6 +6,8 @@
 #include "Game/GameTest.h"
 #include "standin/standin.h"
 
+#include <tuple>
+
 /// One object of each class, as the game builds them. `tower` stands where the game's own does, but is another: grunts
 /// walk to the game's, and the turret, at (100, 100) like the jet, drinks from this one.
 struct Combat : GameTest {

@@ -6,6 +6,7 @@
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
 #include "Vecteur/Vecteur2D.h"
+#include "audio.h"
 #include "sound.h"
 #include "standin/standin.h"
 // IWYU pragma: end_exports

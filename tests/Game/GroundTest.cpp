@@ -1,10 +1,9 @@
 #include "Game/Game.h"
 #include "standin/standin.h"
 
-#include "standin/standin.h"
-
 #include <algorithm>
 #include <cstdlib>
+#include <tuple>
 
 static const Ground meadow(32, std::vector<int>(24, 0));
 struct GroundTest : StandinTest {};
