@@ -72,8 +72,8 @@ def in_window(program, seconds):
 
 def in_browser(page, seconds):
     sys.path.append("web")
-    from browser import Browser, Server  # needs more packages than a player of the program has
-    with Server(page) as server, Browser() as browser:
+    from chromium import Chromium, Server  # needs more packages than a player of the program has
+    with Server(page) as server, Chromium() as browser:
         def held():
             if browser.value("document.hidden || !document.getElementById('front').hidden"):
                 sys.exit("The game is not seen any more.")

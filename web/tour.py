@@ -10,26 +10,26 @@ import sys
 import wave
 
 sys.path[:0] = ["tools", "web"]
-from browser import BAR, Browser, Server
+from chromium import BAR, Chromium, Server
 from session import play, play_in
 from window import HEIGHT, WIDTH, differs, rgb, water
 
 # Written into every page before its own scripts: what is played, and how far the music comes.
 LISTEN = """
 window.heard = {sounds: [], music: {}, state: ''};
-const begin = AudioBufferSourceNode.prototype.start;
+const beginSound = AudioBufferSourceNode.prototype.start;
 AudioBufferSourceNode.prototype.start = function (...times) {
   heard.sounds.push(this.buffer.duration);
   heard.state = this.context.state;
-  return begin.apply(this, times);
+  return beginSound.apply(this, times);
 };
-const play = HTMLMediaElement.prototype.play;
+const playMedia = HTMLMediaElement.prototype.play;
 HTMLMediaElement.prototype.play = function () {
   this.ontimeupdate = () => {
     const file = new URL(this.src).pathname.split('/').pop();
     heard.music[file] = Math.max(this.currentTime, heard.music[file] || 0);
   };
-  return play.apply(this);
+  return playMedia.apply(this);
 };
 """
 
@@ -37,9 +37,9 @@ HTMLMediaElement.prototype.play = function () {
 SIZES = [(360, 640, 3, True), (640, 360, 3, True), (768, 1024, 2, True), (1024, 768, 1, False), (1920, 1080, 1, False)]
 
 
-def require(true, what):
-    if not true:
-        sys.exit(what)
+def require(condition, complaint):
+    if not condition:
+        sys.exit(complaint)
 
 
 def alike(directory):
@@ -171,8 +171,8 @@ def touched(browser, directory):
     until("the title, by the button", lambda p: differs(p, title) < 20)
 
 
-def words(browser, address, before, said, starts=False):
-    """The page says what is missing, some of it only when the game is to start."""
+def says(browser, address, before, said, starts=False):
+    """The page says what is missing, when a script `before` its own has taken it away; some of it only at the start."""
     script = browser.call("Page.addScriptToEvaluateOnNewDocument", source=before)["identifier"]
     browser.call("Page.navigate", url=address)
     if starts:
@@ -187,7 +187,7 @@ def main(page, program, directory):
     os.makedirs(directory, exist_ok=True)
     play(program, os.path.join(directory, "desktop"))
 
-    with Server(page) as server, Browser() as browser:
+    with Server(page) as server, Chromium() as browser:
         browser.call("Page.addScriptToEvaluateOnNewDocument", source=LISTEN)
         browser.open(server.address)
         sizes(browser, directory, "front", ["start"])
@@ -201,10 +201,10 @@ def main(page, program, directory):
         sizes(browser, directory, "game", ["pause", "restart", "sound", "full"])
         require(not browser.complaints, "The browser complained:\n" + "\n".join(browser.complaints))
 
-        words(browser, server.address, "HTMLCanvasElement.prototype.getContext = () => null", "no WebGL", starts=True)
-        words(browser, server.address, "delete window.WebAssembly", "no WebAssembly")
+        says(browser, server.address, "HTMLCanvasElement.prototype.getContext = () => null", "no WebGL", starts=True)
+        says(browser, server.address, "delete window.WebAssembly", "no WebAssembly")
         browser.call("Network.setBlockedURLs", urls=["*PauseButton*"])
-        words(browser, server.address, "", "PauseButton_64.png did not arrive")
+        says(browser, server.address, "", "PauseButton_64.png did not arrive")
         browser.call("Network.setBlockedURLs", urls=[])
         browser.offered("Load again")
         browser.value("document.getElementById('start').click()")

@@ -9,7 +9,7 @@ import statistics
 import sys
 
 sys.path[:0] = ["tools", "web"]
-from browser import Browser, Server
+from chromium import Chromium, Server
 from window import Window
 
 # Counts frames, by the call that begins each, and keeps what the last whole one drew.
@@ -84,7 +84,7 @@ def main(page, seconds, rounds):
     ratios, scripts, threads = [], [], []
     with Server(page) as server:
         for _ in range(int(rounds)):
-            with Browser() as browser:
+            with Chromium() as browser:
                 browser.call("Page.addScriptToEvaluateOnNewDocument", source=COUNT)
                 browser.open(server.address)
                 browser.start()

@@ -49,8 +49,8 @@ class Server:
         self.server.server_close()
 
 
-class Browser(Window):
-    """A Chromium without a page. It fills the display, so that the canvas is as large as the window of the program and
+class Chromium(Window):
+    """Chromium without a page. It fills the display, so that the canvas is as large as the window of the program and
     lies where that would."""
 
     def __init__(self, *flags, screen=(WIDTH + BAR, HEIGHT)):
@@ -85,11 +85,11 @@ class Browser(Window):
         super().__exit__()
         self.profile.cleanup()
 
-    def wait_for(self, what, true, seconds=100):
+    def wait_for(self, what, condition, seconds=100):
         end, refusal = time.monotonic() + seconds, ""
         while time.monotonic() < end:
             try:
-                if answer := true():
+                if answer := condition():
                     return answer
             except Refusal as reason:  # a page that is only coming up can't answer yet
                 refusal = f" ({reason})"
@@ -135,11 +135,11 @@ class Browser(Window):
         self.call("Page.navigate", url=address)
         self.offered("Play")
 
-    def offered(self, words):
-        """Waits until the large button says so."""
+    def offered(self, label):
+        """Waits until the large button can be pressed and has this label."""
         button = "document.getElementById('start')"
-        self.wait_for(f"the button '{words}'",
-                      lambda: self.value(f"{button} && !{button}.disabled && {button}.offsetParent && {button}.textContent") == words)
+        self.wait_for(f"the button '{label}'",
+                      lambda: self.value(f"{button} && !{button}.disabled && {button}.offsetParent && {button}.textContent") == label)
 
     def start(self):
         self.do("mousemove", *self.place("start"), "click", 1)
