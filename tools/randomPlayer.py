@@ -72,7 +72,8 @@ def in_window(program, seconds):
 
 def in_browser(page, seconds):
     sys.path.append("web")
-    from chromium import Chromium, Server  # needs more packages than a player of the program has
+    from chromium import Chromium  # needs more packages than a player of the program has
+    from server import Server
     with Server(page) as server, Chromium() as browser:
         def held():
             if browser.value("document.hidden || !document.getElementById('front').hidden"):

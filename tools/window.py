@@ -40,8 +40,9 @@ def loudest_of(game, *arguments):
 class Window:
     """A virtual display with the program in it, at its upper left; both end with the `with` block."""
 
-    def __init__(self, program, directory=".", arguments=(), screen=(WIDTH, HEIGHT), stderr=None,
+    def __init__(self, program, directory=".", arguments=(), screen=(WIDTH, HEIGHT), quiet=False,
                  **environment):
+        output = subprocess.DEVNULL if quiet else None
         read, write = os.pipe()
         size = "x".join(map(str, (*screen, 24)))
         self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", size],
@@ -52,7 +53,7 @@ class Window:
         os.environ["DISPLAY"] = self.display
         try:
             self.program = subprocess.Popen([os.path.abspath(program), *arguments], cwd=directory,
-                                            stderr=stderr, env={**os.environ, **environment})
+                                            stdout=output, stderr=output, env={**os.environ, **environment})
         except OSError as reason:  # the `with` block, which would end the display, is never reached
             self.server.kill()
             self.server.wait()

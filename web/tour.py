@@ -10,7 +10,8 @@ import sys
 import wave
 
 sys.path[:0] = ["tools", "web"]
-from chromium import BAR, Chromium, Server
+from chromium import BAR, Chromium
+from server import Server
 from session import play, play_in
 from window import HEIGHT, WIDTH, differs, rgb, water
 
@@ -120,55 +121,28 @@ def sizes(browser, directory, name, buttons):
         browser.keep_page(os.path.join(directory, f"{name}-{width}x{height}.png"))
 
 
-def finger(browser, x, y, seconds=0.1):
-    """Lays a finger on a point of the page, and lifts it."""
-    press(browser, x, y)
-    browser.value(f"new Promise(done => setTimeout(done, {1000 * seconds}))")
-    lift(browser)
-
-
-def press(browser, x, y):
-    browser.call("Input.dispatchTouchEvent", type="touchStart", touchPoints=[{"x": x, "y": y}])
-
-
-def lift(browser):
-    browser.call("Input.dispatchTouchEvent", type="touchEnd", touchPoints=[])
-
-
 def touched(browser, directory):
     """A game with fingers alone, on a phone: starts again, buys a turret, fires, pauses by the button, restarts."""
     set_size(browser, *SIZES[0])
-    finger(browser, *browser.place("start"))
+    browser.touch(*browser.place("start"))
     title = rgb("convert", "Assets/img/TitleScreen.jpg", "-resize", f"{WIDTH}x{HEIGHT}!")
 
-    def until(what, seen):
-        last = []
-        def now():
-            last[:] = [browser.look_at_canvas()]
-            return seen(last[0])
-        browser.wait_for(what, now)
-        return last[0]
-
-    def on_canvas(x, y):
-        left, top, width = browser.value("(({x, y, width}) => [x, y, width])(document.getElementById('canvas').getBoundingClientRect())")
-        return left + x * width / WIDTH, top + (HEIGHT - y) * width / WIDTH
-
-    until("the title, on a phone", lambda p: differs(p, title) < 20)
-    finger(browser, *on_canvas(500, 100))
-    field = until("the field, on a phone", lambda p: differs(p, title) > 30 and water(p) > 300)
-    finger(browser, *on_canvas(992, 600))
-    finger(browser, *on_canvas(640, 480))
-    until("a turret that a finger placed", lambda p: differs(p, field, 624, 272, 656, 304) > 15)
-    press(browser, *on_canvas(800, 400))
-    until("the water that a finger fires", lambda p: 0 < water(p) < 300)
-    lift(browser)
+    browser.until_canvas("the title, on a phone", lambda p: differs(p, title) < 20)
+    browser.touch(*browser.on_canvas(500, 100))
+    field = browser.until_canvas("the field, on a phone", lambda p: differs(p, title) > 30 and water(p) > 300)
+    browser.touch(*browser.on_canvas(992, 600))
+    browser.touch(*browser.on_canvas(640, 480))
+    browser.until_canvas("a turret that a finger placed", lambda p: differs(p, field, 624, 272, 656, 304) > 15)
+    browser.press(*browser.on_canvas(800, 400))
+    browser.until_canvas("the water that a finger fires", lambda p: 0 < water(p) < 300)
+    browser.lift(*browser.on_canvas(800, 400))
     browser.keep_page(os.path.join(directory, "finger.png"))
-    finger(browser, *browser.place("pause"))
-    until("the pause sign, by its button", lambda p: differs(p, field, 484, 356, 540, 410) > 15)
+    browser.touch(*browser.place("pause"))
+    browser.until_canvas("the pause sign, by its button", lambda p: differs(p, field, 484, 356, 540, 410) > 15)
     require(browser.value("[scrollX, scrollY, visualViewport.scale].join()") == "0,0,1", "The page moved under the finger.")
-    finger(browser, *browser.place("restart"))
-    finger(browser, *browser.place("again"))
-    until("the title, by the button", lambda p: differs(p, title) < 20)
+    browser.touch(*browser.place("restart"))
+    browser.touch(*browser.place("again"))
+    browser.until_canvas("the title, by the button", lambda p: differs(p, title) < 20)
 
 
 def says(browser, address, before, said, starts=False):

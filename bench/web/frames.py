@@ -9,7 +9,8 @@ import statistics
 import sys
 
 sys.path[:0] = ["tools", "web"]
-from chromium import Chromium, Server
+from chromium import Chromium
+from server import Server
 from window import Window
 
 # Counts frames, by the call that begins each, and keeps what the last whole one drew.
