@@ -31,22 +31,26 @@ class Chromium(Visitor):
             *FLAGS, *flags, "--window-position=0,0", "--window-size=%d,%d" % screen,
             "--user-data-dir=" + self.profile.name, "about:blank"])
         try:
-            self.connect()
+            known = os.path.join(self.profile.name, "DevToolsActivePort")
+            self.wait_for("a browser", lambda: os.path.exists(known) and open(known).read().count("\n"), 120)
+            self.port = open(known).readline().strip()
+            self.connect(self.wait_for("a tab", lambda: [tab for tab in self.tabs() if tab["type"] == "page"], 120)[0])
         except BaseException:
             self.__exit__()
             raise
 
-    def connect(self):
-        known = os.path.join(self.profile.name, "DevToolsActivePort")
-        self.wait_for("a browser", lambda: os.path.exists(known) and open(known).read().count("\n"), 120)
-        port = open(known).readline().strip()
-        def page():
-            with urllib.request.urlopen(f"http://127.0.0.1:{port}/json") as answer:
-                return [target for target in json.load(answer) if target["type"] == "page"]
-        self.socket = websocket.create_connection(
-            self.wait_for("a tab", page, 120)[0]["webSocketDebuggerUrl"], timeout=120)
+    def connect(self, tab):
+        self.tab = tab
+        self.socket = websocket.create_connection(tab["webSocketDebuggerUrl"], timeout=120)
         for domain in "Runtime", "Log", "Network", "Page":
             self.call(domain + ".enable")
+
+    def tabs(self, deed="", method="GET"):
+        """Does something with the browser's tabs; without a deed it tells which there are."""
+        request = urllib.request.Request(f"http://127.0.0.1:{self.port}/json{deed}", method=method)
+        with urllib.request.urlopen(request) as answer:
+            told = answer.read()
+        return json.loads(told) if told.startswith((b"[", b"{")) else told
 
     def __exit__(self, *_):
         super().__exit__()
@@ -79,7 +83,8 @@ class Chromium(Visitor):
         """What an expression of the page's language comes to."""
         answer = self.call("Runtime.evaluate", expression=expression, awaitPromise=True, returnByValue=True)
         if "exceptionDetails" in answer:
-            raise Refusal(f"{expression}: {answer['exceptionDetails']}")
+            details = answer["exceptionDetails"]
+            raise Refusal(details.get("exception", {}).get("description") or details["text"])
         return answer["result"].get("value")
 
     def open(self, address):

@@ -11,42 +11,9 @@ import sys
 sys.path[:0] = ["tools", "web"]
 from firefox import Firefox
 from server import Server
+from watch import COMPLAINTS, EARS
 from webkit import WebKit
 from window import HEIGHT, WIDTH, differs, rgb, water
-
-# Stands in the page before its own scripts: what is heard, and what goes wrong.
-BEFORE = """
-'use strict';
-window.complaints = [];
-for (const level of ['error', 'warn', 'assert']) {
-  const own = console[level];
-  console[level] = (...given) => {
-    complaints.push(given.join(' '));
-    own.apply(console, given);
-  };
-}
-window.addEventListener('error', event => complaints.push(event.message || `not loaded: ${event.target.outerHTML}`), true);
-window.addEventListener('unhandledrejection', event => complaints.push(`rejected: ${event.reason}`));
-document.addEventListener('securitypolicyviolation', event => complaints.push(`policy: ${event.violatedDirective}`));
-
-// Everything that goes to the loudspeakers is measured.
-const connect = AudioNode.prototype.connect;
-let measured;
-AudioNode.prototype.connect = function (target, ...where) {
-  if (target instanceof AudioDestinationNode) {
-    measured = measured || target.context.createAnalyser();
-    connect.call(this, measured);
-  }
-  return connect.call(this, target, ...where);
-};
-window.loudness = () => {
-  const samples = new Float32Array(measured ? measured.fftSize : 0);
-  if (measured)
-    measured.getFloatTimeDomainData(samples);
-  return samples.reduce((loudest, sample) => Math.max(loudest, Math.abs(sample)), 0);
-};
-"""
-
 
 def visit(browser, server, directory):
     """Play, the title and its music, the field, a turret."""
@@ -82,7 +49,7 @@ def visit(browser, server, directory):
 
 def main(page, directory):
     os.makedirs(directory, exist_ok=True)
-    with Server(page, BEFORE) as server:
+    with Server(page, EARS + COMPLAINTS) as server:
         for kind in Firefox, WebKit:
             with kind() as browser:
                 visit(browser, server, directory)

@@ -6,7 +6,7 @@ import tempfile
 
 import websocket
 
-from visitor import Refusal, Visitor
+from visitor import Refusal, Visitor, actions
 
 # Nothing is looked for outside this machine, and nothing covers the page.
 PREFERENCES = """
@@ -19,9 +19,10 @@ user_pref("network.connectivity-service.enabled", false);
 
 
 def start_loudspeaker(folder):
-    """A sound server with a loudspeaker that nobody hears. Without one Firefox lets no sound begin."""
+    """A sound server with a loudspeaker that nobody hears: without one Firefox lets no sound begin. It ends when it has
+    not been needed for ten minutes, whatever has happened to who started it."""
     return subprocess.Popen(
-        ["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--load=module-null-sink",
+        ["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=600", "--load=module-null-sink",
          f"--load=module-native-protocol-unix socket={folder}/loudspeaker"],
         env={**os.environ, "HOME": folder, "XDG_RUNTIME_DIR": folder}, stderr=subprocess.DEVNULL)
 
@@ -35,10 +36,10 @@ class Firefox(Visitor):
             preferences.write(PREFERENCES)
         self.complaints = []
         self.calls = 0
-        self.loudspeaker = start_loudspeaker(self.profile.name)
         super().__init__("/usr/bin/firefox-esr", quiet=True, HOME=self.profile.name,
                          PULSE_SERVER=f"unix:{self.profile.name}/loudspeaker", arguments=[
                              "--kiosk", "--remote-debugging-port", "0", "--profile", self.profile.name, "about:blank"])
+        self.loudspeaker = start_loudspeaker(self.profile.name)
         try:
             self.connect()
         except BaseException:
@@ -94,12 +95,8 @@ class Firefox(Visitor):
     def screenshot(self):
         return self.call("browsingContext.captureScreenshot", context=self.tab)["data"]
 
-    def act(self, x, y, deed):
-        self.call("input.performActions", context=self.tab, actions=[{"type": "pointer", "id": "mouse", "actions": [
-            {"type": "pointerMove", "x": x, "y": y}, {"type": deed, "button": 0}]}])
-
     def press(self, x, y):
-        self.act(x, y, "pointerDown")
+        self.call("input.performActions", context=self.tab, actions=actions(x, y, "pointerDown"))
 
     def lift(self, x, y):
-        self.act(x, y, "pointerUp")
+        self.call("input.performActions", context=self.tab, actions=actions(x, y, "pointerUp"))

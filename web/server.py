@@ -6,8 +6,8 @@ import threading
 
 
 class Server:
-    """Serves a folder; ends with the `with` block. A script `before` stands in its index.html before the page's own, as a
-    file, for a page may refuse every other kind of script. What is asked for and isn't there is kept in `missed`."""
+    """Serves a folder; ends with the `with` block. A script `before` stands in its index.html before the page's own, as
+    a file, for a page may refuse every other kind of script. What is asked for and isn't there is kept in `missed`."""
 
     def __init__(self, folder, before=""):
         missed = self.missed = []
@@ -22,8 +22,9 @@ class Server:
 
             def do_GET(self):
                 if before and self.path == "/":
-                    with open(os.path.join(folder, "index.html"), encoding="utf-8") as page:
-                        self.answer("text/html", page.read().replace("<head>", "<head><script src=\"before.js\"></script>", 1))
+                    with open(os.path.join(folder, "index.html"), encoding="utf-8") as file:
+                        page = file.read()
+                    self.answer("text/html", page.replace("<head>", "<head><script src='before.js'></script>", 1))
                 elif before and self.path == "/before.js":
                     self.answer("text/javascript", before)
                 else:

@@ -13,6 +13,7 @@ sys.path[:0] = ["tools", "web"]
 from chromium import BAR, Chromium
 from server import Server
 from session import play, play_in
+from visitor import require
 from window import HEIGHT, WIDTH, differs, rgb, water
 
 # Written into every page before its own scripts: what is played, and how far the music comes.
@@ -36,11 +37,6 @@ HTMLMediaElement.prototype.play = function () {
 
 # What a phone, a tablet, and desktops may be: width, height, pixels for each of them, fingers.
 SIZES = [(360, 640, 3, True), (640, 360, 3, True), (768, 1024, 2, True), (1024, 768, 1, False), (1920, 1080, 1, False)]
-
-
-def require(condition, complaint):
-    if not condition:
-        sys.exit(complaint)
 
 
 def alike(directory):
@@ -145,17 +141,6 @@ def touched(browser, directory):
     browser.until_canvas("the title, by the button", lambda p: differs(p, title) < 20)
 
 
-def says(browser, address, before, said, starts=False):
-    """The page says what is missing, when a script `before` its own has taken it away; some of it only at the start."""
-    script = browser.call("Page.addScriptToEvaluateOnNewDocument", source=before)["identifier"]
-    browser.call("Page.navigate", url=address)
-    if starts:
-        browser.offered("Play")
-        browser.value("document.getElementById('start').click()")
-    browser.wait_for(f"the words '{said}'", lambda: said in browser.value("document.body.innerText"))
-    browser.call("Page.removeScriptToEvaluateOnNewDocument", identifier=script)
-
-
 def main(page, program, directory):
     os.environ["SDL_AUDIODRIVER"] = "dummy"
     os.makedirs(directory, exist_ok=True)
@@ -174,15 +159,6 @@ def main(page, program, directory):
         touched(browser, directory)
         sizes(browser, directory, "game", ["pause", "restart", "sound", "full"])
         require(not browser.complaints, "The browser complained:\n" + "\n".join(browser.complaints))
-
-        says(browser, server.address, "HTMLCanvasElement.prototype.getContext = () => null", "no WebGL", starts=True)
-        says(browser, server.address, "delete window.WebAssembly", "no WebAssembly")
-        browser.call("Network.setBlockedURLs", urls=["*PauseButton*"])
-        says(browser, server.address, "", "PauseButton_64.png did not arrive")
-        browser.call("Network.setBlockedURLs", urls=[])
-        browser.offered("Load again")
-        browser.value("document.getElementById('start').click()")
-        browser.offered("Play")
     print("The game in the browser is as it should be.")
 
 

@@ -11,6 +11,17 @@ class Refusal(Exception):
     """The browser can't do what it was asked to, or the page can't answer."""
 
 
+def require(condition, complaint):
+    if not condition:
+        sys.exit(str(complaint))
+
+
+def actions(x, y, deed):
+    """WebDriver's words for a mouse that comes to a point of the page and presses or lifts its left button there."""
+    return [{"type": "pointer", "id": "mouse", "actions": [
+        {"type": "pointerMove", "x": x, "y": y}, {"type": deed, "button": 0}]}]
+
+
 class Visitor(Window):
     """A browser. Its kinds know how to ask the page for a `value`, how to take a `screenshot`, in base64, and how to
     `press` the left button or a finger at a point of the page and `lift` it again."""
@@ -21,6 +32,7 @@ class Visitor(Window):
             try:
                 if answer := condition():
                     return answer
+                refusal = ""
             except Refusal as reason:  # a page that is only coming up can't answer yet
                 refusal = f" ({reason})"
             time.sleep(0.1)

@@ -1,10 +1,11 @@
 """The game's page in WebKitGTK, steered over WebDriver."""
+import contextlib
 import json
 import socket
 import urllib.error
 import urllib.request
 
-from visitor import Refusal, Visitor
+from visitor import Refusal, Visitor, actions
 
 
 def free_port():
@@ -29,10 +30,9 @@ class WebKit(Visitor):
             raise
 
     def __exit__(self, *_):
-        try:
+        with contextlib.suppress(Refusal):
             self.call("DELETE", "")
-        finally:
-            super().__exit__()
+        super().__exit__()
 
     def call(self, method, path, **parameters):
         """One command of the WebDriver protocol; its path starts at the session, once there is one."""
@@ -43,7 +43,7 @@ class WebKit(Visitor):
                 return json.load(answer)["value"]
         except urllib.error.HTTPError as reason:
             raise Refusal(f"{method} {path}: {reason.read().decode()}")
-        except urllib.error.URLError as reason:
+        except OSError as reason:
             raise Refusal(f"{method} {path}: {reason}")
 
     def open(self, address):
@@ -55,12 +55,8 @@ class WebKit(Visitor):
     def screenshot(self):
         return self.call("GET", "/screenshot")
 
-    def act(self, x, y, deed):
-        self.call("POST", "/actions", actions=[{"type": "pointer", "id": "mouse", "actions": [
-            {"type": "pointerMove", "x": x, "y": y}, {"type": deed, "button": 0}]}])
-
     def press(self, x, y):
-        self.act(x, y, "pointerDown")
+        self.call("POST", "/actions", actions=actions(x, y, "pointerDown"))
 
     def lift(self, x, y):
-        self.act(x, y, "pointerUp")
+        self.call("POST", "/actions", actions=actions(x, y, "pointerUp"))
