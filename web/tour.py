@@ -152,6 +152,7 @@ def main(page, program, directory):
         sizes(browser, directory, "front", ["start"])
         set_size(browser, WIDTH + BAR, HEIGHT, 1, False)
         browser.start()
+        browser.wait_for("the music of the title", lambda: browser.value("Object.values(heard.music).some(time => time > 0.5)"))
         play_in(browser, os.path.join(directory, "browser"))
         heard(browser)
         alike(directory)
