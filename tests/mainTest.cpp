@@ -38,6 +38,7 @@ TEST_F(MainLoop, opensAndClosesEverythingInOrder) {
     clocks.calendar = 1234567; // the seed of the dice
     EXPECT_EQ(runSession({}), (Story{{"title", 1}}));
     expectAsRecorded("startAndEnd", calls);
+    EXPECT_EQ(screen.lineStyle(), "width 1 blended by alpha");
 }
 
 

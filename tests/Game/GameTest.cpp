@@ -1,9 +1,4 @@
 #include "Game/GameTest.h"
-#include "Vecteur/Vecteur2D.h"
-#include "standin/standin.h"
-
-#include <tuple>
-#include <utility>
 
 #include "standin/standin.h"
 

@@ -7,7 +7,6 @@
 #include "Game/Game.h"
 #include "Vecteur/Vecteur2D.h"
 #include "audio.h"
-#include "sound.h"
 #include "standin/standin.h"
 // IWYU pragma: end_exports
 

@@ -1,8 +1,5 @@
 #include "Game/GameTest.h"
 #include "standin/standin.h"
-#include "utility/utility.h"
-
-#include "standin/standin.h"
 
 #include <cmath>
 #include <fstream>

@@ -1,8 +1,6 @@
 #include "Game/GameTest.h"
 #include "standin/standin.h"
 
-#include "standin/standin.h"
-
 #include <cstdlib>
 #include <random>
 

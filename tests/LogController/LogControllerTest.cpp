@@ -1,8 +1,6 @@
 #include "LogController/LogControllerDef.h"
 #include "standin/standin.h"
 
-#include <utility>
-
 struct LogControllerTest : StandinTest {};
 
 

@@ -4,10 +4,6 @@
 #include "standin/standin.h"
 
 #include <cmath>
-#include <functional>
-#include <string>
-#include <tuple>
-#include <vector>
 
 static const Vecteur abc{1, 2, 3}, def{4, 5, 6}, two{3, 4};
 

@@ -3,9 +3,6 @@
 
 #include "standin/standin.h"
 
-#include <set>
-#include <string>
-
 // A sound is a pointer to its name, and a missing one to none.
 static std::string name(const void* sound) {
     return sound == nullptr ? "none" : *static_cast<const std::string*>(sound);

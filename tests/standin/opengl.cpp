@@ -58,11 +58,7 @@ std::string Screen::lineStyle() const {
 
 extern "C" {
 
-void glEnable(GLenum what) {
-    screen.state.enabled.insert(what);
-    if (what == GL_BLEND)
-        call("enable blending");
-}
+void glEnable(GLenum what) { screen.state.enabled.insert(what); }
 void glDisable(GLenum what) { screen.state.enabled.erase(what); }
 void glBindTexture(GLenum, GLuint texture) { screen.texture = texture; }
 void glColor4d(GLdouble r, GLdouble g, GLdouble b, GLdouble a) {
@@ -126,7 +122,6 @@ void glMatrixMode(GLenum mode) { call(mode == GL_PROJECTION ? "projection" : "mo
 void gluOrtho2D(GLdouble left, GLdouble right, GLdouble low, GLdouble high) { call("ortho", left, right, low, high); }
 void glBlendFunc(GLenum from, GLenum to) {
     screen.state.blendByAlpha = from == GL_SRC_ALPHA && to == GL_ONE_MINUS_SRC_ALPHA;
-    call(screen.state.blendByAlpha ? "blend by alpha" : "blend otherwise");
 }
 void glFlush() {}
 

@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 // IWYU pragma: end_exports

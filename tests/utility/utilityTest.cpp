@@ -1,10 +1,8 @@
 #include "utility/utility.h"
 
-#include <gtest/gtest.h>
+#include "standin/standin.h"
 
 #include <memory>
-#include <utility>
-#include <vector>
 
 TEST(Utility, deletePointerInVectorDeletesOnceAndLeavesNulls) {
     const auto witness = std::make_shared<int>();
