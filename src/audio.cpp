@@ -20,7 +20,7 @@ namespace {
 constexpr int CHANNELS = 10;
 constexpr int FOR_EVER = -1;
 
-// Moves behind an ID3 tag if there is one. Its size is in four bytes of seven bits each.
+// Skips an ID3 tag if there is one. Its size is in four bytes of seven bits each.
 void skipTag(std::istream& file) {
     constexpr int SIZE_BEGINS = 6;
     std::array<unsigned char, 10> header{};
@@ -65,10 +65,9 @@ void setEffectsVolume() {
 }
 
 
-// The mixer refuses a missing file and takes an empty one for a track, both without harm; but noise can crash its MP3
-// decoder, and at the low rates of MPEG-2.5 the mixer runs past its buffer. So a track has to begin with a frame of
-// MPEG-1 or MPEG-2, at once or behind a tag. What follows that beginning is not looked at: noise there still reaches
-// the decoder.
+// The mixer refuses a missing file and takes an empty one for a track, both without harm. But noise can crash its MP3
+// decoder, and at the low rates of MPEG-2.5 the mixer overruns its buffer. So a track has to begin with a frame of
+// MPEG-1 or MPEG-2, at once or after a tag. The rest is not checked: noise there still reaches the decoder.
 Mix_Music* loadMusic(const char* path) {
     std::ifstream file(path, std::ios::binary);
     const bool empty = file.peek() == std::ifstream::traits_type::eof();

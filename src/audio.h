@@ -3,30 +3,31 @@
 
 #include <SDL_mixer.h>
 
-// What the program does once with the mixer, the sounds and the music. Whoever plays a sound needs sound.h only.
+// Opening the mixer, and loading, starting and freeing sounds and music: what the program does once. To play a sound,
+// include sound.h only.
 
 /// Opens the audio device and makes the mixer's channels. Without a device it prints why, without a line end, and
 /// everything after it is silent.
 void openAudio();
 
-/// Sets the volume of every channel to that of the effects. A jingle changes its own channel's later.
+/// Sets every channel to the volume of the effects. A jingle changes that of its own channel later.
 void setEffectsVolume();
 
 /// Loads a track of MP3 music, which the caller frees with Mix_FreeMusic. Null if it can't be loaded, or if it is
-/// MPEG-2.5 (a sampling rate of 8, 11.025 or 12 kHz), which the mixer can't play without harm.
+/// MPEG-2.5 (a sampling rate of 8, 11.025 or 12 kHz), which would make the mixer overrun its buffer.
 Mix_Music* loadMusic(const char* path);
 
-/// Loads all sounds that classes keep a static pointer to, and the title music. What can't be loaded is null, and so
+/// Loads the title music and all sounds, which classes keep static pointers to. What can't be loaded is null, and so
 /// silent.
 void loadSounds();
 
-/// Frees what loadSounds loaded. The pointers stay as they are: nothing may play any more.
+/// Frees what loadSounds loaded. The pointers are not reset, so nothing may be played afterwards.
 void freeSounds();
 
 /// Plays the title music over and over and sets the volume of all music.
 void startTitleMusic();
 
-/// Fades in the music of the game, which repeats and takes the place of what plays.
+/// Fades in the music of the game, which repeats and replaces the music that plays.
 void startGameMusic(Mix_Music* musique);
 
 #endif

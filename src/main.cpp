@@ -18,7 +18,7 @@ namespace {
 constexpr int tailleEcranX = 1024;
 constexpr int tailleEcranY = 768;
 
-/// What the main loop remembers from one event, and from one frame, to the next.
+/// What the main loop remembers between events and between frames.
 struct Loop {
     Game& game;
     Mix_Music* musique_tundrix;
@@ -55,9 +55,9 @@ void onKeyDown(SDLKey key, Loop& loop) {
 }
 
 
-// A click on the turret button selects a turret or lets go of it; with a turret selected a click is one
-// attempt to place it; any other click begins to fire. Fixed: the shop sells while the game is paused, between waves
-// and after a defeat too.
+// A click on the turret button selects a turret or puts it back. With a turret selected, a click is one attempt to
+// place it. Any other click begins to fire. Fixed: the shop also sells while the game is paused, between waves and
+// after a defeat.
 void clickField(Loop& loop) {
     Game& game = loop.game;
     if (game.aCliqueTourelle(loop.coord_souris_x, loop.coord_souris_y)) {
@@ -76,7 +76,8 @@ void clickField(Loop& loop) {
 
 void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     Game& game = loop.game;
-    // Fixed: any button, and a turn of the wheel; and a left click that leaves the title is a click on the field too.
+    // Fixed: any button and any turn of the wheel leaves the title, and a left click that does so also clicks the
+    // field.
     if (game.getIsInTitleScreen()) {
         startGameMusic(loop.musique_tundrix);
         game.setIsInTitleScreen(false);
@@ -84,13 +85,13 @@ void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     if (button.button != SDL_BUTTON_LEFT)
         return;
 
-    // Fixed: counted from ten seconds more than the phase has, so a click is taken at any moment of it.
+    // Fixed: ten seconds more than the phase lasts, so a click counts at any moment of it.
     constexpr double CLICK_CLOCK = 25.0;
     if (game.getIsInBetwenWave() && !game.isContinueToPlay() &&
         CLICK_CLOCK - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)
         game.setContinueToPlay(true);
 
-    // Fixed: while the button is held for firing, another press of it does no more.
+    // Fixed: while the button is held to fire, another press of it does nothing else.
     if (!loop.clic) {
         loop.coord_souris_x = button.x;
         loop.coord_souris_y = upwards(button.y);
@@ -114,7 +115,7 @@ void onEvent(const SDL_Event& event, Loop& loop) {
     case SDL_MOUSEBUTTONDOWN:
         onMouseButtonDown(event.button, loop);
         break;
-    case SDL_MOUSEBUTTONUP: // Fixed: of any button, the wheel too.
+    case SDL_MOUSEBUTTONUP: // Fixed: any button, the wheel too, stops the fire.
         loop.clic = false;
         break;
     default:
@@ -140,7 +141,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         constexpr double STEP_SECONDS = 0.02;
         constexpr int BITS_PER_PIXEL = 32;
 
-        // Fixed: neither SDL nor the window is asked whether it worked.
+        // Fixed: nothing checks whether SDL or the window could be opened.
         SDL_Init(SDL_INIT_VIDEO);
         SDL_WM_SetCaption("Vorel Defense INC.", nullptr);
         openAudio();
@@ -178,13 +179,13 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
             pace.wait(dt);
         }
 
-        // Fixed: the game itself goes after SDL, with this block.
+        // Fixed: the game itself is destroyed after SDL has ended, at the end of this block.
         freeSounds();
         Mix_FreeMusic(musique_tundrix);
         Mix_CloseAudio();
         SDL_Quit();
     } catch (...) {
-        // Fixed: no more than this word, status 0, and what was opened is left to the system.
+        // Fixed: only this word, and status 0. The system closes what was opened.
         std::cout << "error" << std::endl;
     }
     return 0;

@@ -10,7 +10,7 @@ inline constexpr unsigned int DISC_SEGMENTS = 40;
 /// segments. Texturing must be disabled; the colour is opaque white afterwards.
 void openglDrawCircle(const Vecteur2D& vect, const double& radius, const unsigned int& pressison);
 
-/// The same around (`x`, `y`), for those who have no vector at hand.
+/// The same around (`x`, `y`), for callers without a vector.
 void openglDrawCircle(double x, double y, double radius, unsigned int pressison);
 
 #endif

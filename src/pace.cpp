@@ -1,7 +1,7 @@
 #include "pace.h"
 
-// The clock is read twice, in this order: what the first frame is measured from is read last, next to where the loop
-// begins.
+// The clock is read twice, in this order: the time that the first frame is measured from is read last, just before the
+// loop begins.
 Pace::Pace() : tempsActuel(SDL_GetTicks()), dernierTemps(SDL_GetTicks()) {}
 
 
@@ -10,6 +10,6 @@ void Pace::wait(double dt) {
     const Uint32 elapsed = tempsActuel - dernierTemps;
     if (elapsed < dt)
         SDL_Delay(static_cast<Uint32>(dt) - elapsed);
-    // Fixed: the moment before the wait, so the game runs ahead of the clock.
+    // Fixed: the time before the wait, so the game runs ahead of the clock.
     dernierTemps = tempsActuel;
 }

@@ -3,14 +3,13 @@
 
 #include <SDL.h>
 
-/// The pace of a loop that shows frames: it begins when this is made.
+/// Keeps the pace of the main loop, from its construction on.
 class Pace {
 public:
     Pace();
 
-    /// Waits until `dt` milliseconds have passed since the previous frame was shown. That frame's own wait counts
-    /// towards this one, so light frames alternate between a whole wait and none, and the game runs faster than the
-    /// clock.
+    /// Waits until `dt` milliseconds have passed since the previous call began. That call's own wait counts towards
+    /// this one, so light frames alternate between a full wait and none, and the game runs ahead of the clock.
     void wait(double dt);
 
 private:

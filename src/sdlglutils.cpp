@@ -91,7 +91,7 @@ int takeScreenshot(const char* filename) {
     glReadPixels(viewport[0], viewport[1], viewport[2], viewport[3], GL_RGBA, GL_UNSIGNED_BYTE, picture->pixels);
     SDL_UnlockSurface(picture);
 
-    // The window shows no alpha; saving with it would darken every pixel that is not opaque.
+    // The window shows no alpha; saving it would darken every pixel that is not opaque.
     SDL_Surface* finalpicture = flipSurface(picture);
     SDL_SetAlpha(finalpicture, 0, SDL_ALPHA_OPAQUE);
     const int result = SDL_SaveBMP_RW(finalpicture, SDL_RWFromFile(filename, "wb"), 1);
@@ -150,7 +150,7 @@ void drawAxis(double scale) {
 
 int initFullScreen(unsigned int* width, unsigned int* height) {
     SDL_Rect** modes = SDL_ListModes(nullptr, SDL_FULLSCREEN | SDL_OPENGL);
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): so SDL says that any mode will do.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): SDL answers -1 if any mode will do.
     if (modes == nullptr || modes == reinterpret_cast<SDL_Rect**>(-1))
         return 0;
 

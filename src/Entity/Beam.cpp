@@ -50,7 +50,7 @@ double Beam::getWidth() const { return width; }
 
 
 void Beam::update(const double& dt, const Game& /*game*/) {
-    // Along the direction brought to length 1; a jet without a direction stays where it is.
+    // Along the direction, scaled to length 1. A jet without a direction stays where it is.
     const double n = dir.norme();
     if (getIsActive() && !explose && n != 0.0)
         move(dir[0] * (1.0 / n) * dt * speed, dir[1] * (1.0 / n) * dt * speed);
@@ -78,8 +78,8 @@ void Beam::draw(const double& /*dt*/) const {
     glTranslated(-x - width / 2, -y - length / 2, 0);
 
     if (explose) {
-        // The splash is larger than the jet, and its row of the sheet is the lower one. Fixed: it stands off its
-        // centre, for it begins at the jet's corner and turns as the jet does.
+        // The splash is larger than the jet, and its row of the sheet is the lower one. Fixed: it is off its centre,
+        // because it begins at the jet's corner and turns with the jet.
         constexpr double f = 4.0;
         const double cx = static_cast<double>(sprite) / EXPLOSION_FRAMES;
         drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});

@@ -7,8 +7,8 @@
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>
 
-/// A water jet. It flies straight from its turret until it passes its range and vanishes, or touches grunts:
-/// then it hurts each of them once, bursts, and stands as a splash for a moment. Its turret owns it.
+/// A water jet. It flies straight from its turret until it leaves its range and vanishes, or until it touches grunts.
+/// Then it hurts each of them once, bursts, and stays as a splash for a moment. Its turret owns it.
 class Beam : public Entity {
 public:
     /// From `positionOrigine` in the direction `dir`, whose length does not matter. `width` (the collision
@@ -17,12 +17,12 @@ public:
          const double& damage, const double& length, const Vecteur2D& dir);
     Beam* copy() const override;
 
-    /// Not beyond its range, and its splash is not over.
+    /// It is within its range, and its splash is not over.
     bool getIsActive() const;
-    /// No longer active: its turret deletes it.
+    /// It is no longer active, so its turret deletes it.
     bool isNeedToBeDelete() const;
     bool isSolide() const override;
-    /// Has burst, and so hurts nobody any more.
+    /// It has burst, so it hurts nobody any more.
     bool getExplose() const;
     double getDamage() const;
     // Fixed: the game has no caller of these three; other code may.

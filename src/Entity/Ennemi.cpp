@@ -81,13 +81,14 @@ void Ennemi::setPolution(double newPolution) { polution = newPolution; }
 
 
 void Ennemi::update(const double& dt, const Game& game) {
-    // Nothing here allocates: grunts who are gone walk on unseen, and late in a game there are thousands of them.
+    // Nothing here allocates: grunts that are gone walk on unseen, and late in a game there are thousands of them.
     const Vecteur2D& pos = getPosition();
     const Vecteur2D& goal = game.getTower().getPosition();
     const double dx = goal[0] - pos[0];
     const double dy = goal[1] - pos[1];
 
-    // Fixed: nothing stops a grunt, not even its own explosion, and one who explodes at the tower still spoils it.
+    // Fixed: nothing stops a grunt, not even its own explosion, and one that reaches the tower exploding still spoils
+    // it.
     const double d = std::sqrt(dx * dx + dy * dy);
     if (d != 0.0)
         move(dx * (1.0 / d) * speed * dt, dy * (1.0 / d) * speed * dt);
@@ -142,8 +143,8 @@ void Ennemi::draw(const double& /*dt*/) const {
                          {cx + SIDE_MARGIN, r - 1.0 / FACINGS + BOTTOM_MARGIN, cx + 1.0 / WALK_FRAMES - SIDE_MARGIN,
                           r - TOP_MARGIN});
     } else {
-        // The explosion's row of its sheet is the upper one. A glitch cuts the sheet of walking grunts in the same way,
-        // and is no larger than a grunt.
+        // The explosion's row of its sheet is the upper one. A glitch shows the same part of the sheet of walking
+        // grunts, no larger than a grunt.
         constexpr double EXPLOSION_ENLARGED = 3.0;
         const double f = glitch ? 1.0 : EXPLOSION_ENLARGED;
         const double cx = static_cast<double>(e_sprite) / EXPLOSION_FRAMES;

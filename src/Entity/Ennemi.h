@@ -9,19 +9,18 @@
 
 #include <string>
 
-/// A grunt. It walks straight to the tower; jets take its health, and without health it explodes, still
-/// walking, and is gone. A grunt that touches the tower, exploding or not, is gone at once and leaves its
-/// pollution there.
+/// A grunt. It walks straight to the tower. Jets take its health; without health it explodes, still walking, and is
+/// gone. A grunt that touches the tower, exploding or not, is gone at once and leaves its pollution there.
 class Ennemi : public Entity {
 public:
-    /// At `vect`, with `health` in hit points, `speed` in pixels per second, `polution` in units of water,
-    /// the collision radius `w` in pixels, and a name to tell it by in a debugger.
+    /// At `vect`, with `health` in hit points, `speed` in pixels per second, `polution` in units of water, the
+    /// collision radius `w` in pixels, and a name to recognise it by in a debugger.
     Ennemi(const Vecteur2D& vect, const double& health, const double& speed, const double& polution, const double& w,
            const double& h, const std::string& name);
     Ennemi* copy() const override;
 
     bool isAlive() const;
-    /// Takes health off. At 0 or below the grunt explodes. Fixed: it cries then and at every further hit.
+    /// Takes health away. At 0 or below the grunt explodes. Fixed: it cries then and at every further hit.
     void removeHealth(const double& healthMinus);
 
     // Fixed: of these the game calls getPolution only; other code may call them all.
@@ -45,7 +44,7 @@ public:
     static Mix_Chunk* son_grunt;
 
 private:
-    /// Turns towards what is (`dx`, `dy`) pixels away.
+    /// Turns towards the point (`dx`, `dy`) pixels away.
     void face(double dx, double dy);
 
     GLuint m_texture;

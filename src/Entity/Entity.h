@@ -25,7 +25,7 @@ public:
 
     // What every kind of object does in its own way.
 
-    /// Tells `entity`, which this object was found to touch, what it was touched by.
+    /// Tells `entity` what touched it: this object.
     virtual void collide(Entity* entity) = 0;
     /// `dt` is the frame period in milliseconds, which no object needs.
     virtual void draw(const double& dt) const = 0;
@@ -46,7 +46,7 @@ public:
     Vecteur2D getPos() const;
     Vecteur2D& getPos();
     void setPosition(const Vecteur2D& vect);
-    /// The position itself, for those who ask in every step or frame: a copy allocates.
+    /// The position itself, for callers in every step or frame: a copy would allocate.
     const Vecteur2D& getPosition() const { return position; }
 
     /// The distance to a point in pixels.
@@ -55,7 +55,7 @@ public:
 
     // Fixed: the game has no caller of these, of isColliding, nor of copy but a turret's; other code may.
 
-    /// The column and row of the cell that the position lies in, with the fraction cut off: -31 is in cell 0.
+    /// The column and row of the cell at the position, with the fraction cut off: -31 is in cell 0.
     Vecteur2D getPosCase() const;
     /// Moves to the lower-left corner of the cell with the column and row `vect`.
     void setPositionCase(const Vecteur2D& vect);
@@ -66,8 +66,8 @@ public:
 
     /// Takes part in the collisions of this step: solid and in play.
     bool canCollide() const { return isSolide() && getIsActivate(); }
-    /// What a pair is judged by: the centre and the radius in pixels. A step judges every pair of objects, so this
-    /// allocates nothing.
+    /// What decides whether a pair touches: centre and radius, in pixels. A step compares every pair of objects, so
+    /// this allocates nothing.
     struct Disc {
         double x, y, radius;
     };
@@ -93,17 +93,17 @@ protected:
     /// Moves by (`dx`, `dy`) pixels.
     void move(double dx, double dy);
 
-    /// The texture of a picture that many objects show: its file is read once in the life of the program's one window,
-    /// also when it can't be loaded (the answer is then 0 for good).
+    /// The texture of a picture that many objects show. Its file is read only once while the program runs. If it can't
+    /// be loaded, the answer stays 0.
     static GLuint sharedTexture(const char* filename);
 
-    // What jets and grunts share when they burst: one sheet of eight frames, a row for each of them.
+    // What jets and grunts share when they burst: one sheet with a row for each of them, of eight frames.
 
     static constexpr const char* EXPLOSION_PICTURE = "Assets/img/VorelDefense_explosions_64.png";
     static constexpr int EXPLOSION_FRAMES = 8;
 
-    /// Advances a burst by `dt` seconds: its first frame is held, the others pass with one step each.
-    /// `elapsed` are the seconds since the burst. Returns whether it is over.
+    /// Advances a burst by `dt` seconds: its first frame is held, then each step shows the next. `elapsed` is the time
+    /// since the burst, in seconds. Returns whether the burst is over.
     static bool advanceExplosion(const double& dt, double& elapsed, int& frame);
 };
 

@@ -81,7 +81,7 @@ void Tower::draw(const double& /*dt*/) const {
     glColor4d(1, 1, 1, 1);
     drawTexturedQuad(m_texture_fond, x, y, t * tx, t * ty);
 
-    // The water is squeezed towards this height above the sprite's bottom, and reddens with its pollution.
+    // The water is squeezed towards this height above the picture's bottom, and turns red with pollution.
     constexpr double posy = 62.0;
     const double factor = m_water / m_capacity;
     const double decallage = (1 - factor) * posy;

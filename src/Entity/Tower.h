@@ -6,9 +6,9 @@
 
 #include <SDL_opengl.h>
 
-/// The water tower that the player defends: the one tank that every shot is paid from and that every grunt
-/// that arrives pollutes. Water and pollution are counted in units; pollution is a part of the water, and
-/// what is left of it, the pure water, is what can be spent and lost.
+/// The water tower that the player defends. Every shot is paid from its tank, and every grunt that arrives pollutes it.
+/// Water and pollution are counted in units. Pollution is part of the water; only the rest, the pure water, can be
+/// spent.
 class Tower : public Entity {
 public:
     /// A full, clean tower centred on `vect`. Loads the tower's pictures.
@@ -22,10 +22,10 @@ public:
     /// The polluted share of the water, from 0 to 1; 0 for an empty tank.
     double getRatio() const;
 
-    /// There is that much pure water.
+    /// Whether there is that much pure water.
     bool canRemoveWater(const double& water) const;
-    /// Takes water out, down to an empty tank. Fixed: pollution stays in the tank and may then be more than the water,
-    /// so ask canRemoveWater first.
+    /// Takes water out, down to an empty tank. Fixed: pollution stays in the tank and may then exceed the water, so ask
+    /// canRemoveWater first.
     void removeWater(const double& water);
     /// Fills water in, up to the capacity.
     void refil(const double& water);

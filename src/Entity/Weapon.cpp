@@ -49,7 +49,7 @@ bool Weapon::shoot(Vecteur2D pos, Tower& tower) {
 
     cooldownStatue = shotCoolldowmnTime;
     tower.removeWater(waterConsume);
-    // Fixed: a jet aimed at its own turret stands there until a grunt bursts it.
+    // Fixed: a jet aimed at its own turret stays there until it touches a grunt.
     const Vecteur2D direction(pos - getPos());
     beams.push_back(new Beam(beamWidth, beamSpeed, beamRadius, getPos(), damage, beamLength, direction));
     playSound(son_stream);
@@ -84,7 +84,7 @@ void Weapon::update(const double& time, const Game& game) {
         }
     }
 
-    // Close the gaps: the last jet moves into the hole and is looked at next.
+    // Close the gaps: the last jet moves into each gap and is checked next.
     for (size_t i = 0; i < beams.size();) {
         if (beams[i] == nullptr)
             removeInVectorFromPosNoOrder(beams, i);

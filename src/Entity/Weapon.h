@@ -10,18 +10,18 @@
 #include <string>
 #include <vector>
 
-/// A water turret. It never collides; told to fire, it pays one jet with water from the tower, if it is
-/// ready, the target is in range and there is enough pure water. It owns its jets in flight.
+/// A water turret. It never collides. Told to fire, it pays for one jet with water from the tower, if it is ready, the
+/// target is in range and there is enough pure water. It owns its jets in flight.
 class Weapon : public Entity {
 public:
-    /// Centred on `vect`. A shot takes `waterConsume` units of water and is followed by `shotCoolldowmnTime`
-    /// seconds of rest; a target may be `radius` pixels away. `beamRadius` (range), `beamLength` and
-    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health go to the jets. Fixed: `path`
-    /// is not used; all turrets look alike.
+    /// Centred on `vect`. A shot takes `waterConsume` units of water; then the turret rests for `shotCoolldowmnTime`
+    /// seconds. A target may be up to `radius` pixels away. The jets get `beamRadius` (range), `beamLength` and
+    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health. Fixed: `path` is not used; all
+    /// turrets look alike.
     Weapon(const Vecteur2D& vect, const std::string& path, const double& waterConsume, const double& radius,
            const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
            const double& beamWidth, const double& beamSpeed);
-    /// A turret like `w`, with its rest to wait, but without jets: those stay with `w`.
+    /// A turret like `w`, with the same time left to rest, but without jets: those stay with `w`.
     Weapon(const Weapon& w) = default;
     Weapon& operator=(const Weapon& w) = delete;
     ~Weapon() override;
@@ -55,7 +55,7 @@ public:
     static Mix_Chunk* son_construct;
 
 private:
-    /// Jets that are one turret's own: a copy has none.
+    /// The jets belong to one turret: its copy has none.
     struct Jets : std::vector<Beam*> {
         Jets() = default;
         Jets(const Jets& /*others*/) : Jets() {}

@@ -19,8 +19,8 @@ constexpr int START_MONEY = 2000;
 constexpr double TOWER_X = 512.0;
 constexpr double TOWER_Y = 352.0;
 
-// Every wave is made of the same grunt, which enters this often: one grunt in the first wave, then three times the
-// number of earlier waves.
+// All waves consist of the same kind of grunt: one grunt in the first wave, then three times the number of earlier
+// waves.
 constexpr double SECONDS_BETWEEN_GRUNTS = 1.0;
 constexpr double GRUNT_HEALTH = 100.0;
 constexpr double GRUNT_SPEED = 10.0;
@@ -157,8 +157,8 @@ Vecteur2D Game::spawnEnnemi() {
     std::uniform_real_distribution<double> dis(0.0, 2 * width + 2 * heigth);
     const double positionOnPerimeter = dis(RNG);
 
-    // Fixed: the side edges take `width` units of the perimeter and the others `heigth`: grunts may enter above the
-    // window's top at its sides, and never above or below its rightmost part.
+    // Fixed: the side edges take `width` units of the perimeter and the others `heigth`. So grunts may enter at the
+    // sides above the window's top, and never above or below its rightmost part.
     constexpr double OUTSIDE = 30.0;
     Vecteur2D pos;
     if (positionOnPerimeter < width)

@@ -23,8 +23,7 @@ using Ground = std::vector<std::vector<int>>;
 
 /// A new ground with random round patches near the corners and the centre.
 Ground creation_sol();
-/// Turns the cells in the disc of `r` cells around the cell (`x`, `y`) into patch; the centre may lie
-/// outside.
+/// Turns the cells within `r` cells of the cell (`x`, `y`) into patch; that cell may lie outside the ground.
 void creerTache(const int& x, const int& y, const double& r, Ground& tab_sol);
 /// The tiles that draw a ground, with soft edges around its patches.
 Ground lisser(const Ground& tab_sol);
@@ -65,9 +64,9 @@ public:
 
     /// Appends wave 0.
     void init();
-    /// A fresh game on the title screen. Fixed: what stays is the ground, the count of waves that a `Wave` has its
-    /// number from, the steps counted towards the next coin sound, and the seconds before the next wave, until a wave
-    /// ends anew.
+    /// A fresh game on the title screen. Fixed: four things stay: the ground, the count from which each `Wave` takes
+    /// its number, the steps counted towards the next coin sound, and the seconds before the next wave, until a wave
+    /// ends.
     void restart();
 
     // What state it is in.
@@ -78,9 +77,9 @@ public:
     bool getIsInTitleScreen() const;
     void setIsInTitleScreen(bool inTitleScreen);
     bool getIsInBetwenWave() const;
-    /// Seconds left before the next wave; only of meaning between waves.
+    /// Seconds left before the next wave; meaningful only between waves.
     double getTimeBeforeNextWave() const;
-    /// The player has clicked to go on, so the countdown between waves will not be held.
+    /// The player has clicked to continue, so the countdown between waves will not be held.
     bool isContinueToPlay() const;
     void setContinueToPlay(bool continuePlaying);
     const Tower& getTower() const;
@@ -96,24 +95,24 @@ public:
     void update(const double& dt);
     /// Tells every turret to fire at `pos`; nothing happens unless playing.
     void shoot(const Vecteur2D& pos);
-    /// Adds a copy of the turret, which the game owns; the caller keeps its own.
+    /// Adds a copy of the turret, which the game owns; the original stays the caller's.
     void addWeapon(const Weapon& w);
     void addWeapon(Weapon* w);
     /// A random point 30 pixels outside the window, where the next grunt enters.
     Vecteur2D spawnEnnemi();
-    /// Makes the next wave current; it is built if it doesn't exist yet.
+    /// Makes the next wave the current one, and builds it if it doesn't exist yet.
     void startNewWave();
 
     // The shop.
 
-    /// The point hits the turret button.
+    /// Whether the point hits the turret button.
     bool aCliqueTourelle(const int& x, const int& y);
     /// Whether a turret is selected, to be placed with the next click.
     bool tourelleActivite() const;
     void activeTourelle();
     void desactiveTourelle();
-    /// Buys a turret and places it on the lattice point of the cell under (`x`, `y`), if there is room and
-    /// money enough.
+    /// Buys a turret and places it on the lower-left corner of the cell under (`x`, `y`), if there is enough room and
+    /// money.
     void poserTourelle(const int& x, const int& y);
 
     // Drawing. Every routine leaves texturing disabled, texture 0 bound and, if it sets colours, opaque
@@ -130,7 +129,7 @@ public:
     void dessinerTourelleGrisee(const int& x, const int& y) const;
     /// The money counter.
     void afficherArgent(const double& dt) const;
-    /// The money earned between waves, laid out as the counter but in the caller's colour.
+    /// The money earned between waves, laid out like the counter but in the current colour.
     void afficherArgentGain(const double& dt) const;
 
 private:
@@ -189,8 +188,8 @@ private:
     double timeLoos;
     bool continueToPlay;
 
-    // Who can be in a pair, their discs in the same order, and the pairs found. Empty but while collisions are
-    // resolved, so no pointer outlives its object; as members they keep their memory from step to step.
+    // The objects that can collide, their discs in the same order, and the pairs found. Empty except while collisions
+    // are resolved, so no pointer outlives its object. As members they keep their memory from step to step.
     std::vector<Entity*> entitys;
     std::vector<Entity::Disc> discs;
     std::vector<Duo<Entity*, Entity*>> encounters;

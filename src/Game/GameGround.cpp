@@ -10,7 +10,7 @@
 
 namespace {
 
-// Where a group of patches may have its centre: some cells from a corner of the map.
+// Where a group of patches may have its centre: a few cells from a corner of the map.
 struct Origin {
     int column, row;
     int stepX, spreadX;
@@ -52,7 +52,7 @@ void creerGroupe(int px, int py, Ground& tab_sol) {
 }
 
 
-// '1' for a patch, '0' for plain ground and for everything beyond the map.
+// '1' for a patch, '0' for plain ground and everything beyond the map.
 char mark(const Ground& tab_sol, int x, int y) {
     const bool inside =
         x >= 0 && x < static_cast<int>(tab_sol.size()) && y >= 0 && y < static_cast<int>(tab_sol[x].size());
@@ -61,7 +61,7 @@ char mark(const Ground& tab_sol, int x, int y) {
 
 
 int plainCellTile(const Ground& tab_sol, int x, int y) {
-    // The side neighbours: right, above, left, below; and the diagonal ones.
+    // The neighbours at the sides (right, above, left, below), and the diagonal ones.
     const std::string code{mark(tab_sol, x + 1, y), mark(tab_sol, x, y + 1), mark(tab_sol, x - 1, y),
                            mark(tab_sol, x, y - 1)};
     const std::string coins{mark(tab_sol, x + 1, y + 1), mark(tab_sol, x - 1, y + 1), mark(tab_sol, x - 1, y - 1),
@@ -83,7 +83,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     for (const auto& rule : RULES)
         if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
-    // Fixed: between patches on opposite sides too, and on three.
+    // Fixed: also between patches on opposite sides, or on three sides.
     return PLAIN_TILE;
 }
 
@@ -126,7 +126,7 @@ Ground lisser(const Ground& tab_sol) {
 
 
 void Game::drawSol(const double& /*dt*/) const {
-    // The inset keeps neighbouring tiles out.
+    // The inset keeps the neighbouring tiles of the picture from showing.
     constexpr double d = 0.01;
     constexpr double w = 1.0 / TILE_COLUMNS;
     constexpr double h = 1.0 / TILE_ROWS;

@@ -15,7 +15,7 @@ void Game::drawGUI(const double& dt, const int& /*x*/, const int& /*y*/) const {
 
 
 void Game::drawGauge() const {
-    // The bottle's picture is TEXELS high; its liquid stands between the rows y1, when it is empty, and y2.
+    // The bottle's picture is TEXELS high. Its liquid stands at row y1 when it is empty, and at y2 when it is full.
     constexpr double TEXELS = 1024.0;
     const double y1 = 144.0;
     double y2 = 803.0;
@@ -29,7 +29,7 @@ void Game::drawGauge() const {
     glColor4d(0, 0, 1, 1);
     drawContentUpTo(py);
 
-    // The polluted share of the water stands at its bottom; an empty tank has none.
+    // The polluted share of the water is shown at the bottom; an empty tank has none.
     if (m_tower.getWater() > 0.0) {
         y2 = py;
         r = m_tower.getRatio();

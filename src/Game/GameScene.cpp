@@ -40,8 +40,8 @@ constexpr double WAVE_NUMBER_ENLARGED = 2.0;
 constexpr int WAVE_NUMBER_DIGITS = 2; // Fixed: wave 100 shows as 00.
 
 
-// A slice of the pie around (`x`, `y`), between two of the points on its rim. A fan, for a slice of more than half the
-// pie is not convex.
+// A slice of the pie around (`x`, `y`), between two points on its rim. It is a fan because a slice of more than half
+// the pie is not convex.
 void drawSlice(GLuint texture, double x, double y, int first, int last) {
     const TexturedBatch batch(texture, GL_TRIANGLE_FAN);
     glTexCoord2d(0.5, 0.5);
@@ -73,7 +73,7 @@ void Game::draw(const double& dt, const double& x, const double& y) const {
     constexpr double waeponRadiusForMouse = 40.0;
     for (const Weapon* w : weapons) {
         w->draw(dt);
-        // Fixed: over this turret and under the next.
+        // Fixed: the disc lies over this turret and under the next.
         if (w->distanceTo(mousePos[0], mousePos[1]) < waeponRadiusForMouse && isPlaying())
             openglDrawCircle(w->getPosition(), w->getRadius(), DISC_SEGMENTS);
     }
@@ -105,7 +105,7 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
     double alpha = 1.0;
     if (e < timeApearRoundMenu)
         alpha = e / timeApearRoundMenu;
-    else if (e >= FADES_OUT) // Fixed: below 0 in the end, which shows nothing.
+    else if (e >= FADES_OUT) // Fixed: falls below 0 in the end, which shows nothing.
         alpha = 1 - (e - FADES_OUT) / timeDisapearRoundMenu;
     glColor4d(1, 1, 1, alpha);
 

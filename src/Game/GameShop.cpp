@@ -10,7 +10,7 @@
 
 namespace {
 
-// A turret as the shop builds it.
+// A turret from the shop.
 constexpr double WATER_PER_SHOT = 1.0;
 constexpr double TURRET_RANGE = 300.0;
 constexpr double JET_DAMAGE = 50.0;
@@ -18,7 +18,7 @@ constexpr double SECONDS_BETWEEN_SHOTS = 1.0;
 constexpr double JET_SIZE = 10.0;
 constexpr double JET_SPEED = 80.0;
 
-// How close to the tower and to one another turrets may stand.
+// How far turrets must stand from the tower and from one another, in pixels.
 constexpr double TOO_NEAR_THE_TOWER = 70.0;
 constexpr double TOO_NEAR_A_TURRET = 50.0;
 
@@ -64,7 +64,7 @@ void Game::poserTourelle(const int& x, const int& y) {
 }
 
 
-// Fixed: shown also where the turret can't be placed or paid.
+// Fixed: shown even where the turret can't be placed, or can't be paid for.
 void Game::dessinerTourelleGrisee(const int& x, const int& y) const {
     constexpr double t = Weapon::SIZE_IN_CELLS;
     constexpr double w = t * largeur_case;

@@ -14,8 +14,8 @@
 
 namespace {
 
-// Between waves, counted in the seconds that are left before the next one: the water drains into money
-// between the first two, then the rest is paid, and without a click the countdown holds at the last.
+// Between waves, in seconds left before the next one: the water drains into money between the first two moments, then
+// the rest is paid. Without a click the countdown stops at the last.
 constexpr double DRAIN_BEGINS = 13.0;
 constexpr double DRAIN_ENDS = 11.0;
 constexpr double COUNTDOWN_HOLDS = 10.0;
@@ -23,7 +23,7 @@ constexpr double COUNTDOWN_HOLDS = 10.0;
 constexpr double argentParWater = 20.0;
 constexpr int STEPS_BETWEEN_COINS = 20;
 
-// Pure water below this is a defeat, but not in the first moments of a wave.
+// Less pure water than this is a defeat, but not in the first moments of a wave.
 constexpr double LEAST_PURE_WATER = 1.0;
 constexpr double TIME_OF_GRACE = 1.0;
 
@@ -41,7 +41,7 @@ void Game::update(const double& dt) {
     if (isInBetwenWave)
         updateBetwenWave(dt);
 
-    // Fixed: defeat comes first, so a wave whose last grunt spoils the water is lost, not cleared.
+    // Fixed: defeat is checked first, so a wave whose last grunt spoils the water is lost, not cleared.
     if (m_tower.getPureWaterLeft() < LEAST_PURE_WATER && !isInBetwenWave && time > TIME_OF_GRACE && !loos) {
         loos = true;
         playJingle(son_defeat);
@@ -56,7 +56,7 @@ void Game::update(const double& dt) {
         timeBeforeNextWave = TIME_BETTWENN_WAVE;
     }
 
-    // Fixed: the time on the title counts, so the grunts due by then enter together when it is left.
+    // Fixed: the time spent on the title counts, so the grunts due by then enter together when it is left.
     if (hasLoos())
         timeLoos += dt;
     else
@@ -68,7 +68,7 @@ void Game::releaseEnnemis() {
     if (!isPlaying())
         return;
 
-    // How many should be out by now. Compared as doubles: the quotient may be beyond any whole number.
+    // How many should be out by now. Compared as doubles: the quotient may be too large for a whole number.
     Wave& wave = m_waves[currentWave];
     size_t target = wave.getEnnmisNumber();
     if (wave.getTimeDiffBetwenSpawn() != 0.0) {
@@ -82,7 +82,7 @@ void Game::releaseEnnemis() {
 
 
 void Game::resolveCollisions() {
-    // In the order in which encounters count.
+    // In this order encounters are answered below.
     const auto add = [this](Entity* entity) {
         if (!entity->canCollide())
             return;
@@ -98,7 +98,7 @@ void Game::resolveCollisions() {
     for (Ennemi& ennemi : m_waves[currentWave].getEnnemisInGame())
         add(&ennemi);
 
-    // Find everything before anything reacts, so that no reaction makes or breaks an encounter of this step.
+    // Find all encounters before any object reacts, so that no reaction adds or removes an encounter of this step.
     for (size_t i = 0; i < discs.size(); ++i) {
         const Entity::Disc one = discs[i];
         for (size_t j = 0; j < discs.size(); ++j)
@@ -146,7 +146,7 @@ void Game::drainWater() {
         return;
 
     argentGain += diffWater * argentParWater;
-    temps_son += 1; // Fixed: goes on from wave to wave, and over a restart.
+    temps_son += 1; // Fixed: counts on from wave to wave, and across a restart.
     if (temps_son > STEPS_BETWEEN_COINS) {
         playSound(son_coinsound);
         playSound(son_pourwater);
@@ -159,7 +159,7 @@ void Game::drainWater() {
 void Game::payOut() {
     finalWaterLeft = true;
     argentGain += m_tower.getPureWaterLeft() * argentParWater;
-    // Fixed: the fraction is dropped, and the tank keeps what was paid for last.
+    // Fixed: the fraction of a coin is dropped, and the water paid for here stays in the tank.
     argent = static_cast<int>(argent + argentGain);
     playSound(son_cashregister);
 }

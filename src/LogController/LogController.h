@@ -14,7 +14,7 @@ public:
     LogController(std::ostream& outStreamPara, std::string additionalStringPara);
     virtual ~LogController() = default;
 
-    /// The line "HH:MM:SS prefix message" without its end.
+    /// The line "HH:MM:SS prefix message", without a line end.
     template <typename T>
     std::string getLogMessage(const T& message) const {
         std::ostringstream line;

@@ -4,7 +4,7 @@
 #include "LogController/LogController.h"
 #include "LogController/LogControllerError.h"
 
-// The console's loggers, one of each for the whole program. Fixed: the game uses the first only, and that through
+// The console's loggers, one of each for the whole program. Fixed: the game uses only the first, in
 // Exception::consolErr; other code may use them all.
 
 /// Errors, on standard error.

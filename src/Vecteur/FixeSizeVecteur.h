@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-/// A vector of exactly N components, from its construction on: a constructor that is given another number
-/// raises an Exception of the kind VECTEUR_SIZE_INCORRECT.
+/// A vector of exactly N components. A constructor that is given another number of them raises an Exception of the kind
+/// VECTEUR_SIZE_INCORRECT.
 template <unsigned int N>
 class FixeSizeVecteur : public Vecteur {
 public:

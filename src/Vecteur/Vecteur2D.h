@@ -29,16 +29,16 @@ public:
     Vecteur2D& operator=(const Vecteur2D& vect) = default;
     ~Vecteur2D() override = default;
 
-    /// Fixed: this takes radians, the others degrees; and the game doesn't call it, but other code may. Becomes the
-    /// vector of length `norme` at `angle` radians from the x axis towards the y axis.
+    /// Becomes the vector of length `norme` at `angle` radians from the x axis towards the y axis. Fixed: this takes
+    /// radians, everything else degrees. The game doesn't call it; other code may.
     void setFormPolar(const double& norme, const double& angle);
 
     /// The heading in degrees from the x axis towards the y axis, from -90 up to 270. Fixed: -90 for a zero vector.
     double getAngle() const;
-    /// The same of the vector (`x`, `y`).
+    /// The same for the vector (`x`, `y`).
     static double angleOf(double x, double y);
 
-    /// The same angle, finite and in degrees, above -180 and up to 180.
+    /// The same angle, which must be finite, in degrees above -180 and up to 180.
     static double normaliserAngle(double degre);
 };
 

@@ -64,7 +64,7 @@ bool Vecteur::compare(const Vecteur& vectCompare) const {
 }
 
 
-// Its own check first: what goes wrong in a sum is reported under the name that the caller used.
+// Checked here first, so that the error names the function that the caller used.
 Vecteur Vecteur::plus(const Vecteur& vectAutre) const {
     if (size() != vectAutre.size())
         refuseSize(__LINE__, __FILE__, __func__);

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-/// A vector of doubles of any dimension, zero included. Operations that build a new vector return a plain
-/// Vecteur, whatever their operands are. An operation that needs equal dimensions raises an Exception of the
-/// kind VECTEUR_SIZE_INCORRECT without them, and changes nothing. Fixed: most of it has no caller in the game; other
-/// code may call it.
+/// A vector of doubles of any dimension, zero included. Operations that build a new vector return a plain Vecteur,
+/// whatever their operands are. An operation that needs equal dimensions, and does not get them, raises an Exception of
+/// the kind VECTEUR_SIZE_INCORRECT and changes nothing. Fixed: most of it has no caller in the game; other code may
+/// call it.
 class Vecteur {
 public:
     /// A vector without components.
@@ -25,7 +25,7 @@ public:
     /// Takes the components of `vect`, however many there are.
     Vecteur& operator=(const Vecteur& vect) = default;
 
-    // What a vector of a fixed dimension may do in its own way.
+    // What a vector of fixed dimension may override.
 
     /// Sets component `x` to `val`; raises VECTEUR_READ_VALUE_INCORRECT outside the vector.
     virtual void setCoord(double val, size_t x);
@@ -74,19 +74,19 @@ public:
     Vecteur compose(const Vecteur& vect) const;
     /// `length` components from index `start` on; raises as coord() does beyond the end.
     Vecteur cut(size_t start, size_t length) const;
-    /// The components `strat` to `finish`, both included, none if `strat` is the greater; raises as coord()
-    /// does beyond the end.
+    /// The components `strat` to `finish`, both included; none if `strat` is greater. Raises as coord() does beyond the
+    /// end.
     Vecteur getSubVecteur(const size_t& strat, const size_t& finish) const;
 
 protected:
-    /// Raises an Exception of the kind VECTEUR_SIZE_INCORRECT for the place that it is called from.
+    /// Raises an Exception of the kind VECTEUR_SIZE_INCORRECT that names the caller's place.
     [[noreturn]] static void refuseSize(int line, const char* file, const char* function);
 
 private:
     std::vector<double> coords;
 };
 
-// Fixed: the results are constant; nobody means to assign to a sum.
+// Fixed: the results are constant, so that nobody assigns to a sum by mistake.
 
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2);
 const Vecteur operator-(Vecteur vect1, const Vecteur& vect2);
@@ -98,13 +98,13 @@ const Vecteur operator*(const Vecteur& vect, const double& scal);
 /// Multiplies by 1 / `scal`, which is not checked: dividing by zero gives infinities.
 const Vecteur operator/(const Vecteur& vect, const double& scal);
 
-// Constant as the others are; on a double and a bool it has no effect, which a compiler may remark on.
+// Constant like the others. On a double or a bool that has no effect, and a compiler may warn about it.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wignored-qualifiers"
 
 /// The dot product.
 const double operator*(const Vecteur& vect1, const Vecteur& vect2);
-/// Fixed: raises VECTEUR_SIZE_INCORRECT, rather than answering no, for vectors of different dimensions.
+/// Fixed: for vectors of different dimensions it raises VECTEUR_SIZE_INCORRECT instead of returning false.
 const bool operator==(const Vecteur& vect1, const Vecteur& vect2);
 const bool operator!=(const Vecteur& vect1, const Vecteur& vect2);
 

@@ -32,10 +32,9 @@ public:
     std::vector<Ennemi>& getEnnemisInGame();
     /// Seconds between two releases.
     double getTimeDiffBetwenSpawn() const;
-    /// The number of waves that were built before this one, whichever game they belonged to. Fixed: it has no caller in
-    /// the game; other code may call it.
+    /// The number of waves built before this one, in all games. Fixed: the game has no caller of it; other code may.
     int getId() const;
-    /// All of the roster has been released and nobody of it is still in play.
+    /// The whole roster has been released, and none of it is still in play.
     bool isFinish() const;
 
     void draw(const double& dt) const;

@@ -14,8 +14,8 @@ public:
               std::string additionalString);
     Exception(int linePara, std::string fileNamePara, std::string functionNamePara, ExceptionType exceptionTypePara);
 
-    /// One line without its end: number, file, line and description of the error, then the additional text
-    /// if there is one.
+    /// One line without a line end: number, file, line and description of the error, then the additional text if there
+    /// is one.
     std::string getExceptionText() const;
     virtual std::string getPrintText() const;
     ExceptionType getExceptionType() const;

@@ -3,7 +3,7 @@
 
 #include "exception/ExceptionType.h"
 
-// The kinds of error. Fixed: the vectors raise the first two and nobody the others, and the texts keep their spaces and
+// The kinds of error. Fixed: only the first two are raised, by the vectors, and the texts keep their spaces and
 // misspellings. Numbers are never reused, so that old logs stay readable.
 
 const ExceptionType VECTEUR_SIZE_INCORRECT(1, " les vecteurs sont de la mauvaise taille pour cette action ",

@@ -1,7 +1,7 @@
 #ifndef HETEROGENEOUS_CONTAINER_H
 #define HETEROGENEOUS_CONTAINER_H
 
-/// Two values of any types, held by value: in the collision pass two entities that touch. Pointers in it own
+/// Two values of any types, held by value. The collision pass keeps two touching entities in it; pointers in it own
 /// nothing.
 template <typename Type1, typename Type2>
 class Duo {

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// Deletes every object of a vector of owning pointers. The vector keeps its length, its entries become
-/// null, so a second call deletes nothing.
+/// Deletes every object in a vector of owning pointers. The vector keeps its length and its entries become null, so a
+/// second call deletes nothing.
 template <typename T>
 void deletePointerInVector(std::vector<T*>& vect) {
     for (T*& pointer : vect) {
@@ -17,8 +17,8 @@ void deletePointerInVector(std::vector<T*>& vect) {
     }
 }
 
-/// Removes the element at `pos` in constant time by moving the last element into its place: the order is
-/// lost. A position outside the vector removes nothing. What a removed pointer points to stays alive.
+/// Removes the element at `pos` in constant time by moving the last element into its place: the order is lost. A
+/// position outside the vector removes nothing. An object behind a removed pointer is not deleted.
 template <typename T>
 void removeInVectorFromPosNoOrder(std::vector<T>& vect, const size_t& pos) {
     if (pos < vect.size()) {
@@ -27,8 +27,7 @@ void removeInVectorFromPosNoOrder(std::vector<T>& vect, const size_t& pos) {
     }
 }
 
-/// The text that a plain output stream makes of `input`: six significant digits for a double, a string
-/// unchanged.
+/// `input` as text, as a plain output stream writes it: a double with six significant digits, a string unchanged.
 template <typename T>
 std::string toString(const T& input) {
     std::ostringstream text;
