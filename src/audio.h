@@ -10,7 +10,8 @@
 /// everything after it is silent.
 void openAudio();
 
-/// Sets every channel to the volume of the effects. A jingle changes that of its own channel later.
+/// Sets every channel to the volume of the effects. A jingle changes that of its own channel later (sound.cpp); the
+/// volume of music is set by startTitleMusic.
 void setEffectsVolume();
 
 /// Loads a track of MP3 music, which the caller frees with Mix_FreeMusic. Null if it can't be loaded, or if it is

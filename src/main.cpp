@@ -1,4 +1,5 @@
 #include "Game/Game.h"
+
 #include "Vecteur/Vecteur2D.h"
 #include "audio.h"
 #include "drawing.h"
@@ -85,7 +86,7 @@ void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     if (button.button != SDL_BUTTON_LEFT)
         return;
 
-    // Fixed: ten seconds more than the phase lasts, so a click counts at any moment of it.
+    // Fixed: the phase lasts 15 seconds, not 25, so this is true at any moment of it, and every click counts.
     constexpr double CLICK_CLOCK = 25.0;
     if (game.getIsInBetwenWave() && !game.isContinueToPlay() &&
         CLICK_CLOCK - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)

@@ -1,4 +1,5 @@
 #include "openglDrawCircle.h"
+
 #include "Vecteur/Vecteur2D.h"
 
 #include <SDL_opengl.h>

@@ -53,7 +53,7 @@ public:
     double distanceTo(const Vecteur2D& point) const;
     double distanceTo(double x, double y) const;
 
-    // Fixed: the game has no caller of these, of isColliding, nor of copy but a turret's; other code may.
+    // Fixed: the game calls none of these, nor isColliding, nor any copy but a turret's. Other code may.
 
     /// The column and row of the cell at the position, with the fraction cut off: -31 is in cell 0.
     Vecteur2D getPosCase() const;

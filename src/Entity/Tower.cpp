@@ -7,9 +7,9 @@
 #include "drawing.h"
 #include "sdlglutils.h"
 
-#include <algorithm>
-
 #include <SDL_opengl.h>
+
+#include <algorithm>
 
 namespace {
 

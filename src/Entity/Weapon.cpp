@@ -12,6 +12,7 @@
 
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>
+
 #include <cstddef>
 #include <string>
 #include <vector>

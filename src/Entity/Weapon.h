@@ -16,8 +16,8 @@ class Weapon : public Entity {
 public:
     /// Centred on `vect`. A shot takes `waterConsume` units of water; then the turret rests for `shotCoolldowmnTime`
     /// seconds. A target may be up to `radius` pixels away. The jets get `beamRadius` (range), `beamLength` and
-    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health. Fixed: `path` is not used; all
-    /// turrets look alike.
+    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health. Fixed: `path` is not used.
+    /// There is one kind of turret, so its picture is named in the constructor.
     Weapon(const Vecteur2D& vect, const std::string& path, const double& waterConsume, const double& radius,
            const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
            const double& beamWidth, const double& beamSpeed);
@@ -46,7 +46,7 @@ public:
     void onCollideEnnemi(Ennemi* ennemi) override;
     void onCollideTower(Tower* tower) override;
 
-    /// The price of a turret in the shop.
+    /// The price of a turret in the shop, on whose panel it is also painted.
     static constexpr int price = 1000;
     /// The side of its square picture, in cells.
     static constexpr double SIZE_IN_CELLS = 2.0;

@@ -34,7 +34,8 @@ Ground lisser(const Ground& tab_sol);
 /// Positions are window pixels, x to the right and y upwards from the lower-left corner.
 class Game {
 public:
-    /// The map in cells, and a cell in pixels: exactly the 1024 x 768 window.
+    /// The map in cells, and a cell in pixels: exactly the 1024 x 768 window, which main.cpp opens and for which panels
+    /// and pictures are laid out.
     static constexpr int largeur = 32;
     static constexpr int hauteur = 24;
     static constexpr double largeur_case = 32.0;

@@ -1,6 +1,6 @@
-#include "Entity/Weapon.h"
 #include "Game/Game.h"
 
+#include "Entity/Weapon.h"
 #include "Vecteur/Vecteur2D.h"
 #include "drawing.h"
 #include "openglDrawCircle.h"

@@ -1,9 +1,9 @@
-#include "Entity/Entity.h"
-#include "Entity/Weapon.h"
 #include "Game/Game.h"
 
 #include "Entity/Beam.h"
 #include "Entity/Ennemi.h"
+#include "Entity/Entity.h"
+#include "Entity/Weapon.h"
 #include "Vecteur/Vecteur2D.h"
 #include "Wave/Wave.h"
 #include "sound.h"

@@ -1,4 +1,5 @@
 #include "LogController/LogController.h"
+
 #include "utility/utility.h"
 
 #include <cstdint>

@@ -1,4 +1,5 @@
 #include "LogController/LogControllerDef.h"
+
 #include "LogController/LogController.h"
 #include "LogController/LogControllerError.h"
 

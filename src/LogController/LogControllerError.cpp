@@ -1,4 +1,5 @@
 #include "LogController/LogControllerError.h"
+
 #include "LogController/LogController.h"
 
 #include <ostream>

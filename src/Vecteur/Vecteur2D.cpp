@@ -1,4 +1,5 @@
 #include "Vecteur/Vecteur2D.h"
+
 #include "Vecteur/FixeSizeVecteur.h"
 #include "Vecteur/vecteur.h"
 

@@ -1,4 +1,5 @@
 #include "Wave/Wave.h"
+
 #include "Entity/Ennemi.h"
 #include "Vecteur/Vecteur2D.h"
 

@@ -1,5 +1,6 @@
 // Stands in for SDL_mixer: sounds and music are played by the browser. What the game holds as pointers are numbers of
 // sounds, and never looked into.
+// Only what the game calls is there, with the arguments it uses: no asking for a volume, and no setting of all at once.
 
 #include "port.h"
 
