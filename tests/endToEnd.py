@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-# The real program, seen and heard: a whole session, and games with broken files.
+# Sees and hears the real program: a whole session, and games with broken files.
 #
 #     endToEnd.py PROGRAM
 
@@ -17,11 +17,11 @@ with tempfile.TemporaryDirectory() as name:
     scratch = pathlib.Path(name)
     assert loudest_of(play, program, scratch / "pictures") > 100, "the session was silent"
 
-    # Nothing to load at all: white and silent.
+    # Without any file the game is white and silent.
     (nowhere := scratch / "nowhere").mkdir()
     assert loudest_of(play_shortly, program, nowhere) == 0, "a sound from nowhere"
 
-    # Without music the only sound is that of the turret; the other files are empty, cut or noise.
+    # Without music the only sound is that of the turret; the pictures are empty, cut in half or noise.
     shutil.copytree("Assets", scratch / "Assets")
     shutil.rmtree(scratch / "Assets/music")
     for number, path in enumerate(sorted((scratch / "Assets/img").iterdir())):

@@ -1,2 +1,2 @@
-// Drivers that SDL and OpenGL load would be unloaded before the leak report, which could not name them any more.
+// SDL and OpenGL would unload their drivers before the leak report, which could then no longer name them.
 extern "C" int dlclose(void* /*library*/) { return 0; }

@@ -2,8 +2,8 @@
 
 extern "C" int SDL_main(int argc, char** argv);
 
-/// What is seen and heard of a session: the screen, or the sign of the pause on it, with the sounds that begin; and how
-/// many frames in a row it is so.
+/// What a player sees and hears of a session: the screen, or the pause sign on it, with the sounds that begin, and how
+/// many frames in a row look and sound like that.
 using Story = std::vector<std::pair<std::string, int>>;
 
 struct MainLoop : StandinTest {
@@ -12,7 +12,7 @@ struct MainLoop : StandinTest {
     const std::string MUSIC = ", fade in Tundrix_Dubstep_RMX_v1 -1 3000 0", BUILT = ", TurretConstruction",
                       SHOT = ", WaterStream", PAUSE = "PauseButton_64 480,352 544,352 544,416 480,416";
 
-    /// Runs a session with the whole program, and closes the window in one more frame, which is finished.
+    /// Runs a session in the whole program, then closes the window in one more frame, which is still finished.
     static Story runSession(std::vector<Deed> deeds) {
         Story story;
         window.onFrame = [&story] {
@@ -146,8 +146,8 @@ TEST_F(MainLoop, aPressWhileTheLeftButtonIsHeldDoesNotReachTheShop) {
 
 
 TEST_F(MainLoop, aClickBetweenWavesIsTakenAtAnyMoment) {
-    // The only grunt has arrived after 2,512 steps. The next wave begins 15 seconds later, and its first grunt enters a
-    // second into it.
+    // The only grunt has arrived after 2,512 steps. The next wave begins 15 seconds later, and its first grunt enters
+    // one second after that.
     runSession({key(SDLK_a), frames(2513), click(FIELD), frames(750 + 50)});
     EXPECT_EQ(linesStarting("VorelDefense_grunts", screen.drawn).size(), 1U);
 }

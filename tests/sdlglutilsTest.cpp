@@ -28,7 +28,7 @@ TEST_F(Pictures, takeScreenshotShowsWhatTheWindowShowsWhateverItsAlpha) {
         << "the whole viewport, from its corner (3, 5): one pixel wide and two high";
     const auto firstRow = files.saved.begin() + files.saved.at(10); // the header says where it begins
     EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40}))
-        << "blue, green and red, and a byte that fills the row up to four";
+        << "blue, green and red, and one byte to fill the row up to four";
     EXPECT_EQ(takeScreenshot("nowhere.bmp"), -1);
 }
 
@@ -93,7 +93,7 @@ TEST_F(Pictures, initFullScreenSetsTheFirstModeOfSeveral) {
 
 
 TEST_F(Pictures, initFullScreenChangesNothingWhereNoModesAreListed) {
-    for (const long answer : {0L, -1L}) { // none, or any that one asks for
+    for (const long answer : {0L, -1L}) { // no modes, or any mode will do
         window.modes = reinterpret_cast<SDL_Rect**>(answer);
         unsigned int size = 7;
         EXPECT_EQ(initFullScreen(&size, &size), 0);

@@ -8,7 +8,7 @@ struct Sound : StandinTest {};
 
 
 TEST_F(Sound, loadMusicRefusesWhatCannotBeginATrack) {
-    // The tag is 129 bytes long, behind its ten.
+    // The tag's header of ten bytes gives its length: another 129 bytes.
     const std::string tag = std::string("ID3\3\0\0\0\0\1\1", 10) + std::string(129, 'x');
     const std::pair<std::string, bool> starts[] = {
         {"\xFF\xFB of MPEG-1", true},    {"\xFF\xF2 of MPEG-2", true},          {"\xFF\xE3 of MPEG-2.5", false},

@@ -8,8 +8,8 @@
 
 #include <tuple>
 
-/// One object of each class, as the game builds them. `tower` stands where the game's own does, but is another: grunts
-/// walk to the game's, and the turret, at (100, 100) like the jet, drinks from this one.
+/// One object of each class, as the game builds them. `tower` stands where the game's own tower does. Grunts walk to
+/// the game's, but the turret, at (100, 100) like the jet, takes its water from this one.
 struct Combat : GameTest {
     Tower tower{{512, 352}};
     Beam jet{10, 80, 300, {100, 100}, 50, 10, {0, 7}};
@@ -59,7 +59,7 @@ TEST_F(Combat, getPosCaseIsTheCellUnderTheObject) {
     grunt.setPosition({100, 70});
     EXPECT_EQ(grunt.getPosCase(), Vecteur2D(3, 2));
     grunt.setPosition({-31.9, 63.9});
-    EXPECT_EQ(grunt.getPosCase(), Vecteur2D(0, 1)) << "also beyond the left edge";
+    EXPECT_EQ(grunt.getPosCase(), Vecteur2D(0, 1)) << "beyond the left edge too";
 }
 
 
@@ -126,8 +126,8 @@ TEST_F(Combat, aBurstJetHurtsNobody) {
 
 
 TEST_F(Combat, aGruntFacesTheTower) {
-    // In which row of pictures (its lower edge) is one drawn who stands at a place: around the tower and on it, on the
-    // diagonals, and half a degree to both sides of each?
+    // Each place of a grunt, and the lower edge of the row of pictures that shows it there: around the tower and on it,
+    // on the diagonals, and half a degree to both sides of each.
     constexpr double RIGHT = 0.76, UP = 0.51, LEFT = 0.26, DOWN = 0.01;
     // clang-format off
     const std::tuple<double, double, double> cases[] = {
@@ -162,7 +162,7 @@ TEST_F(Combat, aGruntCriesWhenItDiesAndAtEveryFurtherHit) {
 
 
 TEST_F(Combat, oneDeathInFiveIsDrawnWrong) {
-    // On purpose: those that roll 81 or more of 100 show the wrong sheet, as large as a grunt.
+    // On purpose: a roll of 81 or more of 100 shows the wrong sheet, as large as a grunt.
     for (const auto& [roll, sheet] :
          {std::pair(80, "VorelDefense_explosions_64"), {181, "VorelDefense_grunts 84,336"}}) {
         dice = {roll};
@@ -196,7 +196,7 @@ TEST_F(Combat, aShotTakesItsWaterOrIsNotFired) {
     EXPECT_TRUE(turret.shoot({200, 100}, tower));
     EXPECT_EQ(tower.getWater(), 0.5);
     update(turret, 50);
-    EXPECT_FALSE(turret.shoot({200, 100}, tower)) << "half a unit does not pay a shot";
+    EXPECT_FALSE(turret.shoot({200, 100}, tower)) << "half a unit does not pay for a shot";
     tower.refil(0.5);
     EXPECT_TRUE(turret.shoot({200, 100}, tower)) << "the last unit does";
 }
@@ -211,7 +211,7 @@ TEST_F(Combat, aShotReadsNoPicture) {
 
 TEST_F(Combat, aTurretDropsSeveralSpentJetsAtOnceAndKeepsTheOthers) {
     for (const Vecteur2D& target : {Vecteur2D(200, 100), turret.getPos(), Vecteur2D(100, 200)}) {
-        turret.shoot(target, tower); // the second at its own place, where the jet stays
+        turret.shoot(target, tower); // the second shot is aimed at the turret itself, so its jet stays there
         update(turret, 50);
     }
     turret.update(10, game);

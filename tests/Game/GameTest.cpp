@@ -49,7 +49,7 @@ TEST_F(GameTest, theDefeatFadesInAnewAfterARestart) {
 
 
 TEST_F(GameTest, spawnEnnemiChoosesAPlaceOutsideTheEdgesByTheClock) {
-    // Close to the end of each edge that another follows. The low 32 bits choose.
+    // Close to the end of each edge, where the next one begins. The low 32 bits decide.
     const std::pair<long long, Vecteur2D> cases[] = {{101 + (1LL << 32), {-30, 1022.5747}},
                                                      {19, {765.1972, 798}},
                                                      {21, {1054, 940.0601}},
@@ -97,12 +97,12 @@ TEST_F(GameTest, allThatMeetInOneStepAreFoundBeforeAnyReacts) {
     runSteps(1);
     EXPECT_EQ(mixer.sounds, (Lines{"EnnemyExplosion", "EnnemyGrunt", "EnnemyExplosion", "EnnemyGrunt", "WaterSplash",
                                    "WaterSplash", "WaterSplash"}))
-        << "the third jet hurts a grunt that the second has killed, and then all of them burst";
+        << "the third jet hurts a grunt that the second has killed, and then all three burst";
 }
 
 
 TEST_F(GameTest, defeatIsJudgedBeforeTheWavesEnd) {
-    // One unit of pure water is left when the only grunt arrives, or half of one.
+    // One unit of pure water is left when the only grunt has arrived, or half a unit.
     for (const auto& [cost, ending] :
          {std::pair(89.0, "VorelDefense_WellDone on channel 8"), {89.5, "VorelDefense_GameOver on channel 8"}}) {
         game.restart();
@@ -115,7 +115,7 @@ TEST_F(GameTest, defeatIsJudgedBeforeTheWavesEnd) {
 
 
 TEST_F(GameTest, coinsSoundOnlyWhenWaterDrains) {
-    // The drain begins 101 steps after the wave; thirty steps are more than from one coin to the next.
+    // The drain begins 101 steps after the wave. Two coins sound less than thirty steps apart.
     runSteps(2512 + 110);
     const double water = pureWater();
     ASSERT_LT(water, 90) << "the drain has begun";

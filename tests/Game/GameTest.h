@@ -1,7 +1,7 @@
 #ifndef GAME_TEST_H
 #define GAME_TEST_H
 
-// What every test of the game uses comes with it.
+// This header brings what every test of the game uses.
 // IWYU pragma: begin_exports
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
@@ -12,13 +12,13 @@
 
 #include <cmath>
 
-/// A turret as the shop builds it, but for what its shots cost and its jets do.
+/// A turret from the shop, with another price and damage for its shots if wanted.
 inline Weapon turretAt(double x, double y, double waterConsume = 1, double damage = 50) {
     return {{x, y}, "", waterConsume, 300, 300, damage, 1, 10, 10, 80};
 }
 
-/// A game on plain ground, and what a player can do in it and see of it. Unless the clock is set, the first grunt
-/// enters in step 51 after the title and reaches the tower in step 2512.
+/// A game on plain ground, and what a player can do and see in it. Unless the clock is set, the first grunt enters in
+/// step 51 after the title and reaches the tower in step 2512.
 struct GameTest : StandinTest {
     Game game{1024, 768};
 
@@ -34,13 +34,13 @@ struct GameTest : StandinTest {
             game.update(0.02);
     }
 
-    /// Fires one shot that costs so much water, if anyone may fire.
+    /// Fires one shot that costs this much water, if turrets may fire.
     void spill(double water) {
         game.addWeapon(turretAt(800, 600, water));
         game.shoot({800, 550});
     }
 
-    /// What a frame shows of one picture, or of all, with the mouse at (`x`, `y`).
+    /// The lines of a frame that show one picture, or all lines, with the mouse at (`x`, `y`).
     Lines frameLines(const std::string& picture = "", double x = 0, double y = 0) const {
         screen.drawn.clear();
         game.draw(20, x, y);
@@ -48,7 +48,7 @@ struct GameTest : StandinTest {
         return linesStarting(picture, screen.drawn);
     }
 
-    /// How many grunts have entered since this was asked last.
+    /// How many grunts have entered since the last call.
     static int newGrunts() { return std::exchange(clocks.readings, 0); }
 
     double pureWater() const { return game.getTower().getPureWaterLeft(); }

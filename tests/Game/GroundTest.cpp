@@ -24,8 +24,8 @@ TEST_F(GroundTest, creerTacheMarksADiscOfWholeCellsCutAtTheMapsEdge) {
 
 
 TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
-    // Nine rolls for each of four groups: chance, column and row, then radius, row and column of each of two patches.
-    // The fifth stands in the middle and rolls no place: seven.
+    // Four groups take nine rolls each: chance, column and row, then radius, row and column of each of two patches. The
+    // fifth is in the middle and rolls no place, so it takes seven.
     dice = {59, 19, 15, 0, 1, 1, 9,  2,  0, 0, 15, 11, 0, 1, 1, 0, 1, 1, 0, 19, 15, 0,
             1,  1,  0,  1, 1, 0, 15, 11, 0, 1, 1,  0,  1, 1, 0, 0, 5, 3, 9, 4,  7};
     Ground expected = meadow;
@@ -38,8 +38,8 @@ TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
 
 
 TEST_F(GroundTest, lisserGivesEveryNeighbourhoodItsTile) {
-    // Rows from the top, 1 for a patch; the cell in the middle is asked for. The first rule that fits gives its tile,
-    // and plain ground stays where none does.
+    // Rows from the top, 1 for a patch; the tile is that of the middle cell. The first rule that fits decides, and the
+    // ground stays plain where none does.
     const std::pair<const char*, int> cases[] = {
         {"... ... ..1", 0},  {"... ... .1.", 1},  {"... ... 1..", 2},  {"... ..1 ...", 3},  {".1. 1.1 .1.", 4},
         {"... 1.. ...", 5},  {"..1 ... ...", 6},  {".1. ... ...", 7},  {"1.. ... ...", 8},  {"11. 1.. ...", 9},

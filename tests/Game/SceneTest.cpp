@@ -10,8 +10,8 @@ TEST_F(GameTest, theFieldIsDrawnBackToFront) {
 
 
 TEST_F(GameTest, theRoundEndPanelShowsPieEarningsAndWave) {
-    // One tenth of the water is polluted: four of the forty slices, then the other thirty-six. Of the rest one quarter
-    // has drained into the earnings.
+    // One tenth of the water is polluted: four of the forty slices, then the other thirty-six. One quarter of the pure
+    // water has drained into the earnings.
     runSteps(2512 + 125);
     expectAsRecorded("roundEnd", frameLines());
 }

@@ -7,13 +7,13 @@
 constexpr int STEPS = 7500, STRETCH = 500, STEPS_TO_NEXT_FRAME = 7;
 
 
-// One whole game, from the first turret to the defeat. The player fires one volley at step 1500, and without end after
-// step 5400, and clicks to go on at steps 1877 and 4600.
+// One whole game, from the first turret to the defeat. The player fires one volley at step 1500 and keeps firing after
+// step 5400. He clicks to continue at steps 1877 and 4600.
 TEST_F(GameTest, aWholeGameGoesByTheRules) {
     runSteps(0);
     game.poserTourelle(352, 352);
     game.poserTourelle(352, 416);
-    Lines moments; // the steps in which a grunt enters, or something but a shot is heard
+    Lines moments; // the steps in which a grunt enters, or anything but a shot is heard
     Lines stretches(STEPS / STRETCH);
     for (int step = 1; step <= STEPS; ++step) {
         mixer.sounds.clear();
@@ -37,22 +37,24 @@ TEST_F(GameTest, aWholeGameGoesByTheRules) {
         }
     }
     const Lines expected{
-        // The first grunt enters after a second of the game, which here has spent none on its title; a second is 50
-        // steps or 51, for 0.02 has no exact sum. Jet and grunt meet at 30 pixels: the straight one 35 steps after the
-        // volley, the slanting one 55. The wave ends 23 steps after the second hit.
+        // The first grunt enters after one second of play, as no time was spent on the title. A second is 50 or 51
+        // steps, because 0.02 can't be summed exactly. Jet and grunt meet at 30 pixels: the straight jet 35 steps after
+        // the volley, the slanting one 55. The wave ends 23 steps after the second hit.
         "51 grunt, 100 left", "1534 WaterSplash, 98 left", "1554 EnnemyExplosion EnnemyGrunt WaterSplash, 98 left",
         "1577 VorelDefense_WellDone on channel 8, 98 left",
-        // The drain begins 101 steps into the phase; coins sound at every 21st of its steps; it pays 98 times 20.
+        // The drain begins 101 steps into the phase. Coins sound at every 21st of its steps. It pays 98 times 20.
         "1698 CoinSound PourWater, 77 left", "1719 CoinSound PourWater, 57 left", "1740 CoinSound PourWater, 36 left",
         "1761 CoinSound PourWater, 16 left", "1778 CashRegister, 0 left",
-        // Held with ten seconds left until the click at 1877: the next wave starts at 2376. From above it is 446 pixels
-        // to the tower, 396 of them to walk in 1981 steps; each arrival spoils ten units, and the third ends the wave.
+        // The countdown holds with ten seconds left until the click at 1877, and the next wave starts at 2376. From
+        // above, the tower is 446 pixels away; the grunts walk 396 of them, in 1981 steps. Each arrival spoils ten
+        // units, and the third ends the wave.
         "2426 grunt, 100 left", "2476 grunt, 100 left", "2526 grunt, 100 left",
         "4507 VorelDefense_WellDone on channel 8, 70 left",
-        // Sixteen steps of the last drain are still counted, so the first coin comes after five.
+        // Sixteen steps of the last drain still count, so the first coin comes after five.
         "4612 CoinSound PourWater, 67 left", "4633 CoinSound PourWater, 52 left", "4654 CoinSound PourWater, 37 left",
         "4675 CoinSound PourWater, 22 left", "4696 CoinSound PourWater, 8 left", "4708 CashRegister, 0 left",
-        // An early click: 15 seconds of phase. Two units a second are fired, forty volleys and two arrivals empty it.
+        // The click is early, so the phase takes 15 seconds. Shots take two units a second; forty volleys and two
+        // arrivals empty the tank.
         "5308 grunt, 100 left", "5358 grunt, 100 left", "5408 grunt, 98 left", "5458 grunt, 96 left",
         "5509 grunt, 94 left", "5559 grunt, 92 left", "7351 VorelDefense_GameOver on channel 8, 0 left"};
     EXPECT_EQ(moments, expected);

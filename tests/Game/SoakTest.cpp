@@ -4,11 +4,11 @@
 #include <cstdlib>
 #include <random>
 
-// A player who does anything at any time, in any state. VOREL_SOAK_STEPS asks for a longer life.
+// A player who does anything at any time, in any state. VOREL_SOAK_STEPS sets another number of steps.
 TEST_F(GameTest, nothingThatAPlayerDoesBreaksTheGame) {
     std::mt19937 random(20);
     int x = 0, y = 0;
-    // Each deed is done once in so many steps.
+    // Each action, and in how many steps it happens once on average.
     // clang-format off
     const std::pair<unsigned, std::function<void()>> deeds[] = {
         {6000, [&] { game.restart(); }},          {60, [&] { game.setIsInTitleScreen(random() % 100 == 0); }},

@@ -1,5 +1,5 @@
-// In the place of the clocks and of the random numbers. The clocks stand still unless a test moves them; only SDL's
-// goes on when the game waits or works.
+// Replaces the clocks and the random numbers. The clocks stand still unless a test moves them; only SDL's moves on when
+// the game waits or works.
 
 #include "standin/standin.h"
 

@@ -1,6 +1,6 @@
-// In the place of the files that SDL and its image library read and write, and of SDL's cursors. Every file but
-// "nowhere" can be read, and written up to a thousand bytes. A picture is one white pixel unless a test says otherwise.
-// Surfaces are SDL's own.
+// Replaces the files that SDL and its image library read and write, and SDL's cursors. Every file but "nowhere" can be
+// read, and written up to a thousand bytes. A picture is one white pixel unless a test says otherwise. Surfaces are
+// SDL's own.
 
 #include "standin/standin.h"
 
@@ -15,7 +15,7 @@ static bool isThere(const char* file) {
 
 extern "C" {
 
-// The bytes of its pixels run in another order than OpenGL's.
+// The bytes of its pixels are in a different order from OpenGL's.
 SDL_Surface* IMG_Load(const char* file) {
     if (!isThere(file))
         return nullptr;

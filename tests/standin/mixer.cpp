@@ -1,9 +1,9 @@
-// In the place of the mixer. Every file can be loaded and every sound played, and nothing is heard. The audio device
-// opens unless a test says otherwise.
+// Replaces the mixer. Every file can be loaded and every sound played, and nothing is heard. The audio device opens
+// unless a test says otherwise.
 
 #include "standin/standin.h"
 
-// A sound is a pointer to its name, and a missing one to none.
+// A sound is a pointer to its name; a missing sound is null.
 static std::string name(const void* sound) {
     return sound == nullptr ? "none" : *static_cast<const std::string*>(sound);
 }

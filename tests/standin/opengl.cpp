@@ -1,6 +1,6 @@
-// In the place of OpenGL and GLU. Matrices, attributes and textures work as theirs do, but for one shortcut: turning
-// about another axis than z = 1 shows as a wrong size. What is drawn is written down. No pixel is ever set; those read
-// back are the last texture's.
+// Replaces OpenGL and GLU. Matrices, attributes and textures work like theirs, with one shortcut: a turn about any axis
+// but z = 1 shows as a wrong size. Everything drawn is recorded. No pixel is ever set; the pixels read back are those
+// of the last texture.
 
 #include "standin/standin.h"
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The open batch: its corners stand in front of what longer ones have left.
+// The open batch: its corners come first, before what longer batches left behind.
 GLenum shape = 0;
 std::vector<Vertex> corners(4);
 size_t emitted = 0;
@@ -23,8 +23,8 @@ Point placeOf(double x, double y) { return screen.matrices.back().first * Point(
 std::string text(const Point& point) { return " " + toString(point.real()) + "," + toString(point.imag()); }
 
 
-// One shape of a batch, as Screen::drawn has it. Of a fan with two corners, an empty slice of the pie, the third is
-// left from the batch before.
+// Records one shape of a batch in the form of Screen::drawn. For a fan with two corners, an empty slice of the pie, the
+// third corner is left over from the batch before.
 void draw(const Vertex* vertex, size_t count) {
     const Texture& texture = textures.at(screen.texture);
     std::string line = screen.has(GL_TEXTURE_2D) ? texture.picture : "no texture";

@@ -1,7 +1,7 @@
 #ifndef STANDIN_H
 #define STANDIN_H
 
-// What every test uses comes with it.
+// This header brings what every test uses.
 // IWYU pragma: begin_exports
 #include "utility/utility.h"
 
@@ -22,13 +22,13 @@
 #include <vector>
 // IWYU pragma: end_exports
 
-/// What stand-ins write down is text, a line for each thing that happened.
+/// Stand-ins record text, a line for each thing that happened.
 using Lines = std::vector<std::string>;
 
-/// The lines that begin so.
+/// The lines that begin with `start`.
 Lines linesStarting(const std::string& start, const Lines& lines);
 
-/// What was asked of the window, the mixer and the projection, all in one order: "volume 8 50".
+/// The calls to the window, the mixer and the projection, in the order in which they came: "volume 8 50".
 inline Lines calls;
 
 /// A name and values, with a space before each value.
@@ -37,7 +37,7 @@ std::string joined(const std::string& name, const Values&... values) {
     return (name + ... + (" " + toString(values)));
 }
 
-/// Writes a call down. The answer is 0, which says that all went well.
+/// Records a call. The answer is 0, which says that all went well.
 template <typename... Values>
 int call(const std::string& name, const Values&... values) {
     calls.push_back(joined(name, values...));
@@ -46,15 +46,15 @@ int call(const std::string& name, const Values&... values) {
 
 using Point = std::complex<double>;
 
-/// Where a corner is in the window, in pixels, and in its picture, from 0 to 1; its colour, empty for opaque white; and
-/// how far it is off the plane.
+/// A corner's place in the window, in pixels, and in its picture, from 0 to 1; its colour, empty for opaque white; and
+/// its distance from the plane.
 struct Vertex {
     Point place, spot;
     std::string colour;
     double depth;
 };
 
-/// What drawAxis saves, changes and restores of OpenGL's state.
+/// The part of OpenGL's state that drawAxis saves, changes and restores.
 struct Attributes {
     std::set<GLenum> enabled;
     std::string colour;
@@ -64,12 +64,12 @@ struct Attributes {
 
 /// opengl.cpp
 inline struct Screen {
-    /// What was drawn since the last clear, a line for each quad: its picture, with a remark if that has no mipmaps,
-    /// its four corners, those of the part of the picture that it shows unless it is all of it, and the colour unless
-    /// it is opaque white: "TurretIcon_64 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Of other shapes it has the
-    /// first three corners and the last. A line has its two ends and its style.
+    /// What was drawn since the last clear, one entry for each quad: its picture, with a remark if that has no mipmaps;
+    /// its four corners; the corners of the part of the picture that it shows, unless that is all of it; and the
+    /// colour, unless it is opaque white: "TurretIcon_64 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Other
+    /// shapes have their first three corners and the last; a line has its two ends and its style.
     Lines drawn;
-    /// The last batch of more than ten quads; the lines above have only its first.
+    /// The last batch of more than ten quads; `drawn` has only its first quad.
     std::vector<Vertex> longBatch;
     /// The pixels of the last texture made, row by row from the bottom. The window shows them too.
     std::vector<Uint8> texels;
@@ -77,13 +77,13 @@ inline struct Screen {
     std::array<GLint, 4> viewport{3, 5, 1, 2};
     GLuint texture = 0;
     Attributes state;
-    /// The groups of attributes that were pushed, and the state at that time.
+    /// The groups of attributes that were pushed, each with the state at that time.
     std::vector<std::pair<GLbitfield, Attributes>> pushed;
-    /// A matrix draws a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
+    /// A matrix puts a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
     std::vector<std::pair<Point, Point>> matrices{{1, 0}};
 
     bool has(GLenum ability) const { return state.enabled.count(ability) != 0; }
-    /// How a line would be drawn, but for its colour: "width 2 smooth blended by alpha".
+    /// How a line would be drawn, apart from its colour: "width 2 smooth blended by alpha".
     std::string lineStyle() const;
     /// The state in which every drawing routine must leave it.
     bool isAtRest() const {
@@ -92,18 +92,18 @@ inline struct Screen {
 } screen;
 
 struct Texture {
-    /// The file opened last before it was made, without folder and ending.
+    /// The last file opened before it was made, without folder and extension.
     std::string picture;
-    /// How it was made: "4 RGBA mipmaps", and OpenGL's numbers for its filters, of a smaller and of a larger picture.
+    /// How it was made: "4 RGBA mipmaps", then OpenGL's numbers of the filters that make it smaller and larger.
     std::string made;
 };
-/// Every texture by its name in OpenGL. They outlive a test, for objects share theirs.
+/// Every texture by its name in OpenGL. They outlive a test, because objects share them.
 inline std::vector<Texture> textures(1);
 
 /// mixer.cpp
 inline struct Mixer {
-    /// Every sound asked for: "CoinSound" on the first free channel, or "VorelDefense_GameOver on channel 8"; and every
-    /// track that fades in, with its loops, its milliseconds and where it begins.
+    /// Every sound that was to be played: "CoinSound" on the first free channel, or "VorelDefense_GameOver on channel
+    /// 8". And every track that was to fade in, with its loops, its milliseconds and where it begins.
     Lines sounds;
     /// The answer to opening the audio device; -1 is a failure.
     int deviceAnswer = 0;
@@ -114,8 +114,8 @@ struct Place {
     int x, y;
 };
 
-/// Something that the player does, or frames that pass: a frame is an SDL_NOEVENT, at which polling stops, and which
-/// goes when the frame is shown.
+/// Something that the player does, or frames that pass. A frame is an SDL_NOEVENT: polling stops at it, and it is
+/// removed when the frame is shown.
 using Deed = std::vector<SDL_Event>;
 inline Deed frames(int count) { return Deed(count); }
 inline Deed key(SDLKey symbol) {
@@ -124,7 +124,7 @@ inline Deed key(SDLKey symbol) {
     event.key.keysym.sym = symbol;
     return {event};
 }
-// SDL counts rows from the window's top. An event of a motion has its place where that of a button has it.
+// SDL counts rows from the window's top. A motion event has its place in the same bytes as a button event.
 inline Deed mouse(SDL_EventType type, Place place = {}, Uint8 button = SDL_BUTTON_LEFT) {
     SDL_Event event{};
     event.button = {Uint8(type), 0, button, 0, Uint16(place.x), Uint16(768 - place.y)};
@@ -142,25 +142,25 @@ inline struct Window {
     /// The full-screen modes with OpenGL, as SDL lists them, and whether one can be set.
     SDL_Rect** modes = nullptr;
     bool opens = true;
-    /// What is to come. When it is over, asking for another event raises an exception.
+    /// The events still to come. After the last one, asking for another raises an exception.
     std::deque<SDL_Event> session;
     std::function<void()> onFrame = [] {};
 } window;
 
-/// clocksAndDice.cpp. The system clock chooses where a grunt enters: at these nanoseconds at (-30, 351.9975) and
-/// (511.9981, 798).
+/// clocksAndDice.cpp. The system clock decides where a grunt enters: at these nanoseconds it is at (-30, 351.9975) and
+/// at (511.9981, 798).
 constexpr long long LEFT_OF_TOWER = 60911, ABOVE_TOWER = 224874;
 
 inline struct Clocks {
-    /// What time() answers, in seconds, and the system clock.
+    /// The time that time() returns, in seconds, and that of the system clock.
     long long calendar = 0, nanoseconds = LEFT_OF_TOWER;
     /// How often the system clock was read. The game reads it once for each grunt that enters.
     int readings = 0;
-    /// SDL's clock, which wraps soon, and what the work of a frame adds to it, in milliseconds.
+    /// SDL's clock, which is about to wrap, and what the work of a frame adds to it, in milliseconds.
     Uint32 ticks = 0xFFFFFFF0, workOfAFrame = 0;
 } clocks;
 
-/// What rand() answers next; when they are used up, 60, which leaves the ground without patches.
+/// What rand() returns next. When the dice are used up it returns 60, which leaves the ground without patches.
 inline std::deque<int> dice;
 
 /// files.cpp
@@ -171,18 +171,18 @@ inline struct Files {
     /// What every picture file holds, row by row from the top.
     std::vector<Pixel> picture{{255, 255, 255, 255}};
     int width = 1;
-    /// The file asked for last, without folder and ending. Each is there, but for "nowhere".
+    /// The last file asked for, without folder and extension. Every file exists except "nowhere".
     std::string opened;
-    /// What was written last, and the bits of the last cursor.
+    /// The last file written, and the bits of the last cursor.
     std::vector<Uint8> saved = std::vector<Uint8>(1000), cursorData, cursorMask;
 } files;
 
-/// Compares lines with those recorded in tests/recorded/NAME.lines, and says how to accept others.
+/// Compares lines with those recorded in tests/recorded/NAME.lines. If they differ, says how to accept them.
 void expectAsRecorded(const std::string& name, const Lines& lines);
 
 /// The fixture of every test.
 struct StandinTest : testing::Test {
-    /// Puts every stand-in back, but for the textures.
+    /// Resets every stand-in but the textures.
     StandinTest();
 };
 

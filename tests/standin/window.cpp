@@ -1,5 +1,5 @@
-// In the place of SDL's window and events. The window opens unless a test says otherwise, and its colours have 24 bits.
-// The events are those of the session that a test writes; by default there is none.
+// Replaces SDL's window and events. The window opens unless a test says otherwise, and its colours have 24 bits. The
+// events are those of the session that a test writes; by default there are none.
 
 #include "standin/standin.h"
 
