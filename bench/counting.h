@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-/// How often memory was asked for since the program's start, and how many bytes are still held.
+/// How often memory was allocated since the program's start, and how many bytes are still held.
 extern size_t allocations;
 extern long long liveBytes;
 

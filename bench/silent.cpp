@@ -1,5 +1,4 @@
-// OpenGL and a mixer that do nothing: what is measured with them is the game's own work, and what is counted its own
-// memory.
+// OpenGL and a mixer that do nothing, so that only the game's own work is measured and only its own memory counted.
 
 #include <SDL_mixer.h>
 #include <SDL_opengl.h>

@@ -1,5 +1,5 @@
-// How long a step takes in a late wave, against a plain loop over the same pairs, and how long a frame. Neither may
-// allocate anything: the first ones have made the room that the others use.
+// How long a step takes in a late wave, compared with a plain loop over the same pairs, and how long a frame takes.
+// After the first step and the first frame, which reserve memory for the later ones, neither may allocate anything.
 
 #include "Entity/Weapon.h"
 #include "Game/Game.h"
@@ -17,7 +17,7 @@ constexpr int TURRETS = 60;
 constexpr int JETS = 4;
 constexpr int WALKING = 100;
 
-// So short a step that a scene stays as it is, however often it is measured.
+// A step so short that a scene does not change, however often it is measured.
 constexpr double STANDSTILL = 1e-9;
 
 /// Wave `wave` under fire: all but a hundred of its grunts killed and gone, the others a hundred pixels inside the
@@ -28,7 +28,7 @@ std::unique_ptr<Game> storm(int wave) {
     for (int i = 0; i < wave; ++i)
         game->startNewWave();
 
-    // One jet as large as the field and beyond kills everybody; its turret fires at its own place only.
+    // One jet, larger than the field, kills everybody; its turret fires only at itself.
     game->addWeapon(Weapon({5000, 5000}, "", 0, 1, 1e9, 1e9, 0, 1e5, 1e5, 0));
     game->update(wave * 3.0 - WALKING + 0.5);
     game->update(0.02);
@@ -48,7 +48,7 @@ std::unique_ptr<Game> storm(int wave) {
 }
 
 
-/// Measures what `act` takes of time, and counts what each of its turns allocates once the first is over.
+/// Measures how long `act` takes, and counts the allocations of each run after the first.
 template <typename Act>
 void measure(benchmark::State& state, const Act& act) {
     act();
@@ -71,7 +71,7 @@ void frame(benchmark::State& state) {
 }
 
 
-/// The same with a turret selected and the mouse on another, so with both their discs.
+/// The same with a turret selected and the mouse on another, so with the discs of both.
 void preview(benchmark::State& state) {
     const auto game = storm(static_cast<int>(state.range(0)));
     game->activeTourelle();
@@ -79,7 +79,7 @@ void preview(benchmark::State& state) {
 }
 
 
-/// Every ordered pair of as many discs as the storm has: the tower, the jets and those who still walk.
+/// Compares every ordered pair of as many discs as the storm has: the tower, the jets and the grunts that still walk.
 void plainLoop(benchmark::State& state) {
     constexpr int COUNT = 1 + TURRETS * JETS + WALKING;
     double x[COUNT];

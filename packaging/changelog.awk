@@ -1,5 +1,5 @@
-# Turns CHANGELOG.md into a change log as Debian reads it. Each release there has the heading "## VERSION, DATE" and a
-# list; what stands before the first release is left out.
+# Turns CHANGELOG.md into a Debian changelog. Each release there has the heading "## VERSION, DATE" and a list; anything
+# before the first release is left out.
 
 function sign() {
   if (date != "")

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Starts Vorel Defense in the folder of its pictures and sounds, if the display can show it.
+# Starts Vorel Defense in the folder of its pictures and sounds, if the display can show OpenGL.
 set -eu
 
 complain() {
@@ -21,5 +21,5 @@ if [ -n "${DISPLAY:-}" ] && command -v xdpyinfo >/dev/null; then
   esac
 fi
 
-# Nobody could be asked what the display can do, so what is known is known afterwards.
-"$game" || complain "The game broke off. Does ${DISPLAY:-$WAYLAND_DISPLAY} show OpenGL? It needs that."
+# Nothing here can tell what the display supports, so try it: a failure may mean that OpenGL is missing.
+"$game" || complain "The game ended with an error. Does ${DISPLAY:-$WAYLAND_DISPLAY} support OpenGL? The game needs it."

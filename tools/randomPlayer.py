@@ -4,8 +4,8 @@
     randomPlayer.py PROGRAM SECONDS [SEED]    the real program, whose window is closed at the end
     randomPlayer.py PAGE SECONDS [SEED]       the game in a browser; PAGE is the folder that web/build made
 
-Prints twenty times on the way how many bytes are held, and fails if that grows once the first tenth is over, or if the
-browser complains.
+Prints twenty times how many bytes of memory are in use. Fails if that grows after the first tenth of the time, or if the
+browser reports an error.
 """
 import os
 import pathlib
@@ -16,7 +16,7 @@ import time
 
 from window import Window
 
-# Keeps the memory of the game, whose size nothing else tells, and counts the frames.
+# Keeps a reference to the game's memory, as there is no other way to learn its size, and counts the frames.
 MEMORY = """
 window.drawn = 0;
 const request = window.requestAnimationFrame;
@@ -34,8 +34,8 @@ WebAssembly.instantiate = async (...given) => {
 
 
 def action():
-    """One thing that a hand on a keyboard and a mouse may do, as arguments of xdotool. A browser needs its own keys, as F1,
-    for itself."""
+    """One thing that a player may do with keyboard and mouse, as arguments of xdotool. No key that a browser uses itself,
+    such as F1, is among them."""
     place = ["mousemove", str(random.randrange(1024)), str(random.randrange(768))]
     return random.choice([
         ["key", random.choice(["space", "r", "a", "Return", "F2", "Left"])],
@@ -46,7 +46,7 @@ def action():
 
 
 def keep_acting(seconds, held, **allowed):
-    """`held` answers with the bytes that are held, a figure for each name in `allowed`, by which factor it may grow."""
+    """`held` returns the bytes in use, a figure for each name in `allowed`, which gives the factor by which it may grow."""
     figures = []
     for _ in range(20):
         end = time.monotonic() + float(seconds) / 20
@@ -56,7 +56,7 @@ def keep_acting(seconds, held, **allowed):
         print(*figures[-1], flush=True)
     for (name, factor), course in zip(allowed.items(), zip(*figures[2:])):
         if sum(course[-5:]) > factor * sum(course[:5]):
-            sys.exit(f"What the {name} holds grows.")
+            sys.exit(f"The memory of the {name} grows.")
 
 
 def in_window(program, seconds):
@@ -77,7 +77,7 @@ def in_browser(page, seconds):
     with Server(page) as server, Chromium() as browser:
         def held():
             if browser.value("document.hidden || !document.getElementById('front').hidden"):
-                sys.exit("The game is not seen any more.")
+                sys.exit("The game is no longer visible.")
             browser.call("HeapProfiler.collectGarbage")
             print(browser.value("drawn"), "frames:", end=" ")
             return browser.call("Runtime.getHeapUsage")["usedSize"], browser.value("memory.buffer.byteLength")
@@ -93,7 +93,7 @@ def in_browser(page, seconds):
 def main(game, seconds, seed="1"):
     random.seed(seed)
     (in_browser if os.path.isdir(game) else in_window)(game, seconds)
-    print("Nothing grows.")
+    print("No memory grows.")
 
 
 if __name__ == "__main__":

@@ -1,9 +1,10 @@
 #!/usr/bin/python3
-"""Plays the real program through its window, on a virtual display, with real keys and clicks.
+"""Plays the real program in its window, on a virtual display, with real keys and clicks.
 
     session.py PROGRAM DIRECTORY    one game from the title to its end; leaves pictures of it
 
-What must be seen is waited for, so the session fails, and says at what, when the game does not show it.
+The session waits for everything that must be seen. If the game does not show it, the session fails and says what is
+missing.
 """
 import os
 import subprocess
@@ -77,7 +78,7 @@ def play_shortly(program, directory, **environment):
         window.do("key", "a")
         window.click(992, 600)
         window.click(640, 480)
-        window.do("sleep", 3)  # a busy machine may be slow to sound the purchase
+        window.do("sleep", 3)  # on a busy machine the purchase may sound late
         window.close()
         window.ended()
 

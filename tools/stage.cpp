@@ -1,10 +1,10 @@
-// Sets up scenes that play reaches seldom or late, and shows them in the real window, with real sound:
+// Sets up scenes that a player sees seldom or late, and shows them in the real window, with real sound:
 //
 //     vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]      in the folder that holds Assets/
 //
-// The scene goes on for that many seconds, or until it is closed; its last frame is kept in the picture. Each number
-// for the ground gives another one, always the same, and grunts enter at the same places every time. At the end the
-// work for one frame is printed. Scenes, N being a number:
+// The scene runs for that many seconds, or until its window is closed. PICTURE.bmp gets its last frame. GROUND is a
+// number: each gives a different ground, always the same one. Grunts enter at the same places every time. At the end
+// the work per frame is printed. N stands for a number in these scenes:
 //
 //     title       the title screen
 //     busy        ten turrets fire at the two dozen grunts on the field and at the three dozen that follow
@@ -45,7 +45,7 @@ constexpr int WIDTH = 1024;
 constexpr int HEIGHT = 768;
 constexpr double STEP = 0.02; // seconds
 
-// When the pointer of the film does what, in steps.
+// What the pointer of the film does, and at which steps.
 constexpr int SHOP_CLICKED = 50;
 constexpr int TURRET_PLACED = 100;
 constexpr int FIRST_VOLLEY = 140;
@@ -55,18 +55,18 @@ constexpr int STEPS_BETWEEN_PICTURES = 3;
 
 const Vecteur2D TOWER(512, 352);
 
-/// What chooses where the next grunt enters. It goes on when it is read, so that no two enter at one place.
+/// The clock that decides where the next grunt enters. It moves on when it is read, so that no two enter at one place.
 std::chrono::nanoseconds entranceClock{};
 
-/// What goes on in front of the window: where the mouse is, and whether its button is held.
+/// The player at the window: where the mouse is, and whether its button is held.
 struct Player {
     Vecteur2D mouse{512, 160};
     bool fires = false;
-    std::vector<std::pair<int, Vecteur2D>> way; ///< Of the film: in which step the pointer arrives where.
+    std::vector<std::pair<int, Vecteur2D>> way; ///< For the film: the steps in which the pointer arrives, and where.
 };
 
 
-/// Goes on for some seconds, in long steps and without sound.
+/// Lets some seconds pass, in long steps and without sound.
 void pass(Game& game, double seconds) {
     constexpr double LONG_STEP = 0.1;
     for (double passed = 0; passed < seconds; passed += LONG_STEP)
@@ -74,14 +74,14 @@ void pass(Game& game, double seconds) {
 }
 
 
-/// Jumps to the wave that players call so; the first is 1.
+/// Jumps to the wave with the number that players see; the first is 1.
 void jumpToWave(Game& game, int number) {
     for (int wave = 1; wave < number; ++wave)
         game.startNewWave();
 }
 
 
-/// The first `count` of ten turrets like the shop's. Those that need no water hold out for minutes.
+/// Places the first `count` of ten turrets like the shop's. Without a need for water they can fire for minutes.
 void placeTurrets(Game& game, int count = 10, double waterPerShot = 0) {
     constexpr int PLACES[10][2] = {{416, 448}, {608, 448}, {416, 256}, {608, 256}, {512, 512},
                                    {512, 192}, {320, 352}, {704, 352}, {288, 512}, {736, 192}};
@@ -90,7 +90,7 @@ void placeTurrets(Game& game, int count = 10, double waterPerShot = 0) {
 }
 
 
-/// Takes water from the tank, as the shot of a turret far outside the window.
+/// Takes water from the tank, by the shot of a turret far outside the window.
 void takeWater(Game& game, double units) {
     const Vecteur2D outside(-1000, -1000);
     game.addWeapon(Weapon(outside, "", units, 1, 0, 0, 1, 10, 10, 80));
@@ -99,7 +99,7 @@ void takeWater(Game& game, double units) {
 }
 
 
-/// Lets grunts walk in until that much water is polluted.
+/// Lets grunts walk in until this much water is polluted.
 void pollute(Game& game, double units) {
     jumpToWave(game, 20);
     while (game.getTower().getPollution() < units)
@@ -107,11 +107,11 @@ void pollute(Game& game, double units) {
 }
 
 
-/// Wave 3 close to six turrets, and the way of the pointer.
+/// Puts wave 3 close to six turrets, and plans the way of the pointer.
 void setUpFilm(Game& game, Player& player) {
     player.way = {{0, {700, 470}}, {SHOP_CLICKED, {992, 595}}, {TURRET_PLACED, {712, 490}}};
     for (int volley = FIRST_VOLLEY; volley <= LAST_VOLLEY; volley += STEPS_BETWEEN_VOLLEYS) {
-        // Each grunt has walked as far when its volley meets it, for they enter as often as turrets fire.
+        // Each grunt has walked equally far when its volley meets it, because grunts enter as often as turrets fire.
         constexpr double WALKED = 403;
         const Vecteur2D entrance = game.spawnEnnemi();
         player.way.emplace_back(volley, entrance + WALKED * Vecteur2D(TOWER - entrance).normalise());
@@ -124,7 +124,7 @@ void setUpFilm(Game& game, Player& player) {
 }
 
 
-/// Moves the pointer as a hand does, slowly at first and at last, and clicks or fires.
+/// Moves the pointer like a hand, slowly at first and at last, and clicks or fires.
 void film(Game& game, Player& player, int step) {
     constexpr double STEPS_OF_A_MOVE = 25;
     for (const auto& [arrival, place] : player.way) {
@@ -141,7 +141,7 @@ void film(Game& game, Player& player, int step) {
 }
 
 
-/// A white arrow with a black rim, whose tip is at a place.
+/// Draws a white arrow with a black rim.
 void drawPointer(const Vecteur2D& tip) {
     constexpr double CORNERS[][2] = {{0, 0}, {0, -25}, {6, -19}, {12, -31}, {17, -29}, {11, -17}, {19, -17}};
     constexpr double MIDDLE[] = {6, -15};
@@ -157,7 +157,7 @@ void drawPointer(const Vecteur2D& tip) {
 }
 
 
-/// Whether there is such a scene.
+/// Sets up a scene. Returns whether there is one of that name.
 bool setUp(Game& game, Player& player, const std::string& scene) {
     const size_t letters = std::min(scene.find_first_of("0123456789"), scene.size());
     const std::string name = scene.substr(0, letters);
@@ -219,7 +219,7 @@ bool isClosed() {
 }
 
 
-/// The milliseconds of work that each frame took.
+/// Runs a scene. Returns the milliseconds of work that each frame took.
 std::vector<double> run(Game& game, Player& player, int steps, const std::string& picture) {
     using Clock = std::chrono::steady_clock;
     const bool isFilm = !player.way.empty();
@@ -243,7 +243,7 @@ std::vector<double> run(Game& game, Player& player, int steps, const std::string
 } // namespace
 
 
-#ifndef __EMSCRIPTEN__ // whose library can't be given another clock
+#ifndef __EMSCRIPTEN__ // its library does not let a program replace the clock
 std::chrono::system_clock::time_point std::chrono::system_clock::now() noexcept {
     entranceClock += std::chrono::milliseconds(3514);
     return time_point(entranceClock);

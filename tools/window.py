@@ -1,4 +1,4 @@
-"""The real program in its window on a virtual display, with real keys and clicks; what its pictures show, and its sound."""
+"""The real program in its window on a virtual display, with real keys and clicks: what its window shows, and its sound."""
 import os
 import subprocess
 import sys
@@ -16,13 +16,13 @@ def rgb(*source):
 
 
 def differs(one, other, left=0, top=0, right=WIDTH, bottom=HEIGHT):
-    """How much two pictures differ in a rectangle, as the mean of 0 to 255; looks at every fourth pixel and row."""
+    """How much two pictures differ in a rectangle: the mean difference, from 0 to 255, of every fourth pixel and row."""
     places = [3 * (WIDTH * y + x) + part for y in range(top, bottom, 4) for x in range(left, right, 4) for part in range(3)]
     return sum(abs(one[place] - other[place]) for place in places) / len(places)
 
 
 def water(picture):
-    """The rows of the gauge that are blue."""
+    """How many rows of the gauge are blue."""
     def blue(x, y):
         red, green, blue = picture[3 * (WIDTH * y + x):][:3]
         return blue > 100 and blue > red + 60
@@ -30,7 +30,8 @@ def water(picture):
 
 
 def loudest_of(game, *arguments):
-    """The loudest sample, of 32767, that the mixer makes while `game` is played; it writes what it mixes, in real time."""
+    """The loudest sample, of 32767, that the mixer makes while `game` is played. SDL writes the mix to a file in real
+    time."""
     with tempfile.NamedTemporaryFile() as stream:
         game(*arguments, SDL_AUDIODRIVER="disk", SDL_DISKAUDIODELAY="23", SDL_DISKAUDIOFILE=stream.name)
         samples = stream.read()
@@ -38,7 +39,7 @@ def loudest_of(game, *arguments):
 
 
 class Window:
-    """A virtual display with the program in it, at its upper left; both end with the `with` block."""
+    """A virtual display with the program in its upper left corner. Both end with the `with` block."""
 
     def __init__(self, program, directory=".", arguments=(), screen=(WIDTH, HEIGHT), quiet=False,
                  **environment):
@@ -54,7 +55,7 @@ class Window:
         try:
             self.program = subprocess.Popen([os.path.abspath(program), *arguments], cwd=directory,
                                             stdout=output, stderr=output, env={**os.environ, **environment})
-        except OSError as reason:  # the `with` block, which would end the display, is never reached
+        except OSError as reason:  # the `with` block, which would end the display, never begins
             self.server.kill()
             self.server.wait()
             sys.exit(f"The program can't be started: {reason}")
@@ -101,7 +102,7 @@ class Window:
         return screen, [window for window in screen.screen().root.query_tree().children if name(window)]
 
     def close(self):
-        """Closes the window as its own button does."""
+        """Closes the window like its close button."""
         screen, windows = self.windows()
         wish = screen.intern_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0
         windows[0].send_event(protocol.event.ClientMessage(
