@@ -1,4 +1,5 @@
-// The page's first script, in words that any browser knows: loads the others, or says why they can't be run here.
+// The page's first script, in a language that any browser understands. Loads the others, or says why they can't run
+// here.
 (function () {
   var start = document.getElementById('start');
   var progress = document.getElementById('progress');

@@ -6,25 +6,26 @@ const element = id => document.getElementById(id);
 const [canvas, front, bar, message, progress, start, rest] =
   ['canvas', 'front', 'bar', 'message', 'progress', 'start', 'rest'].map(element);
 
-const files = JSON.parse(element('files').textContent); // before: what is loaded before the start, and its bytes; sounds
+// before: the files to load before the start, with their bytes; sounds: those to load afterwards
+const files = JSON.parse(element('files').textContent);
 const build = new URL(import.meta.url).search;
 const arrived = {}; // file: bytes
-const images = {}; // by the places that the game knows
-const pictures = {}; // the same as the program wants them
+const images = {}; // by the paths that the game uses
+const pictures = {}; // the same in the form that the program takes
 let program; // compiled
 let gl;
 let sharpness;
 let game; // the program that runs
-let state = 'front'; // then 'starting', 'playing' and 'resting', and 'front' again; 'broken' is for ever
+let state = 'front'; // then 'starting', 'playing' and 'resting', and 'front' again; 'broken' is final
 
 
-// Under a name of its own for each build of the game, so that no two are mixed.
+// Each build of the game has its own addresses, so that files of two builds are never mixed.
 const address = path => path + build;
 
-// A browser may refuse what it is asked for; then all stays as it is.
+// A browser may refuse a request; then everything stays as it is.
 const nevermind = () => {};
 
-// Lets the page do what else it has to do.
+// Gives the page time for its other work.
 const turn = () => new Promise(done => setTimeout(done));
 
 
@@ -43,7 +44,7 @@ function offer(words, button, deed) {
 }
 
 
-// Nothing goes on behind these words, and nothing is written over them: only the page, loaded again, begins anew.
+// The game stops behind this message, and no other message replaces it: only reloading the page helps.
 function breakOff(words) {
   if (state === 'broken')
     return;
@@ -101,7 +102,7 @@ function script(file) {
 }
 
 
-// Pictures are smaller on the way than where the game knows them.
+// Pictures are sent as WebP, which is smaller; the game knows them without that extension.
 async function load(file) {
   const place = file.replace(/\.webp$/, '');
   try {
@@ -117,8 +118,8 @@ async function load(file) {
 }
 
 
-// The page's own picture is what there is to see meanwhile: so all else waits until that is on the screen, as far as the
-// browser tells. In a tab that nobody looks at it won't be.
+// Players see the front picture while the rest loads, so the rest waits until the picture is on the screen, if the
+// browser reports that. In a hidden tab it never is, so the wait has a limit.
 async function frontIsSeen() {
   const LONGEST = 1000; // milliseconds
   const type = 'largest-contentful-paint';
@@ -150,7 +151,8 @@ async function loadAll() {
 }
 
 
-// One after another, as the game is likely to need them. What never comes is never heard.
+// One after another, in the order in which the game is likely to need them. A sound that does not arrive is never
+// heard.
 async function loadSounds() {
   for (const file of files.sounds.splice(0))
     try {
@@ -161,11 +163,11 @@ async function loadSounds() {
 }
 
 
-// The game draws each frame as a whole, and nothing behind it is seen.
+// The game draws every frame completely, so nothing behind the canvas shows through.
 function openCanvas() {
   const options = {alpha: false, antialias: false, depth: false, stencil: false};
-  // The pictures have two pixels for each of the game's: more of them would show nothing new. Without a graphics card
-  // each pixel is dear.
+  // The pictures have two pixels for each of the game's, so more would show nothing new. Without a graphics card every
+  // pixel is expensive.
   gl = canvas.getContext('webgl', {...options, failIfMajorPerformanceCaveat: true});
   sharpness = gl ? 2 : 1;
   gl = gl || canvas.getContext('webgl', options);
@@ -174,8 +176,8 @@ function openCanvas() {
 }
 
 
-// WebGL hands the pixels over as they are in the file; a 2-D canvas would lose the colours of transparent ones. One
-// picture at a time, for the browser may have to decode it anew.
+// WebGL returns the pixels as they are in the file; a 2-D canvas would lose the colours of transparent ones. Goes one
+// picture at a time, because the browser may have to decode it again.
 async function readPictures() {
   const texture = gl.createTexture();
   const frame = gl.createFramebuffer();
@@ -254,7 +256,7 @@ function run() {
 }
 
 
-// Nothing moves and nothing is heard until the player goes on.
+// Nothing moves and nothing is heard until the player continues.
 function takeRest(words = 'The game waits for you.', mayRestart = false) {
   if (state !== 'playing')
     return;
@@ -287,12 +289,12 @@ async function fillScreen() {
       await screen.orientation.lock('landscape');
     }
   } catch {
-    // Then the window stays as it is.
+    // The window stays as it is.
   }
 }
 
 
-// A button does its work and gives the canvas its keyboard back.
+// A button does its work and gives the keyboard focus back to the canvas.
 function onPress(id, deed) {
   element(id).addEventListener('click', () => {
     canvas.focus({preventScroll: true});
@@ -303,7 +305,7 @@ function onPress(id, deed) {
 const toggle = (button, on) => button.setAttribute('aria-pressed', on);
 
 onPress('pause', () => game.press(' '));
-// It stands beside the others, and a slip would cost the whole game.
+// It is beside the other buttons, and a slip would cost the whole game.
 onPress('restart', () => takeRest('Leave this game and start again?', true));
 onPress('sound', button => {
   sound.setOn(!sound.isOn());
@@ -322,11 +324,11 @@ element('again').addEventListener('click', () => {
 rest.addEventListener('close', goOn);
 document.addEventListener('visibilitychange', () => document.hidden && takeRest());
 
-// A call takes the sound away; the next press brings it back.
+// A phone call takes the sound away; the next press brings it back.
 for (const press of ['pointerup', 'click', 'keydown'])
   window.addEventListener(press, () => state === 'playing' && sound.wake(), true);
 
-// Who has come in enlarged must be able to get out again.
+// Players who have zoomed in must be able to zoom out again.
 window.visualViewport?.addEventListener('resize', () =>
   document.documentElement.classList.toggle('enlarged', visualViewport.scale > 1));
 

@@ -1,21 +1,21 @@
-// All that is heard. The page opens it, wakes it and lets it rest; the program says what is to be heard. Volumes are from
-// 0 to 1, places of files those that the game knows.
+// All sound. The page opens it, wakes it and lets it rest; the program says what to play. Volumes are from 0 to 1, and
+// places of files are the paths that the game uses.
 
-const NAME = 'vorel-defense.sound'; // under which the browser remembers whether the player wants to hear it
+const NAME = 'vorel-defense.sound'; // under this name the browser remembers whether the player wants sound
 const build = new URL(import.meta.url).search;
 
-const sounds = new Map(); // place: what is played
-let channels = []; // {volume: its node, source: what it plays or played last, end: when that is over}
+const sounds = new Map(); // place: decoded sound
+let channels = []; // {volume: its gain node, source: what it plays or played last, end: when that ends}
 let context;
-let speaker; // the node that all goes to
-let music; // the one player of all pieces
+let speaker; // the node that all sound goes to
+let music; // the one player of all music
 let musicNode;
 let musicVolume = 1;
-let playing = false; // a piece, as far as the game is concerned
+let playing = false; // whether the game wants music to play
 let awake = false;
 
 
-// A browser may keep nothing, and says so by an error.
+// A browser may refuse to store anything; then it throws an error.
 function remembered() {
   try {
     return localStorage.getItem(NAME);
@@ -39,17 +39,17 @@ export function setOn(on) {
   try {
     localStorage.setItem(NAME, on ? 'on' : 'off');
   } catch {
-    // Then it is not remembered.
+    // The choice is not remembered.
   }
 }
 
 
-// Only a press lets a page be heard, and in some browsers only what that finds there: so this is called in the answer to
-// one, and opens all at once.
+// A browser lets a page make sound only after a press, and some browsers allow only what exists at that moment. So this
+// is called in response to a press, and opens everything at once.
 export function open() {
   if (context)
     return;
-  // The game may be heard beside what the player listens to, and the switch on a phone's side silences it.
+  // The game plays alongside what the player listens to, and the switch on a phone's side silences it.
   if (navigator.audioSession)
     navigator.audioSession.type = 'ambient';
   context = new AudioContext();
@@ -66,7 +66,7 @@ export function open() {
 }
 
 
-// What a browser doesn't allow now, it may allow at the next press.
+// If a browser doesn't allow this now, it may allow it at the next press.
 function ask(promise) {
   promise.catch(error => {
     if (!['AbortError', 'NotAllowedError', 'InvalidStateError'].includes(error.name))
@@ -75,8 +75,8 @@ function ask(promise) {
 }
 
 
-// Called at every press, as a call or another program may have taken the sound away. What such a thing has interrupted
-// is suspended when it is over, and not before that it may be resumed: its clock would stand still.
+// Called at every press, because a phone call or another program may have taken the sound away. An interrupted context
+// is suspended when the interruption is over. It must not be resumed before: its clock would stand still.
 export function wake() {
   awake = true;
   if (context.state === 'suspended')
@@ -95,7 +95,7 @@ export function rest() {
 }
 
 
-// Can be done before the browser allows anything to be heard.
+// Works even before the browser allows any sound.
 export async function add(place, bytes) {
   sounds.set(place, await new OfflineAudioContext(2, 1, 44100).decodeAudioData(bytes));
 }
@@ -120,7 +120,7 @@ export function play(wanted, place) {
   const sound = sounds.get(place);
   const now = context.currentTime;
   const number = wanted < 0 ? channels.findIndex(channel => channel.end <= now) : wanted;
-  // What is not heard now is not kept for later, when all of it would come at once.
+  // A sound that can't be heard now is dropped; otherwise all of them would play at once later.
   if (!sound || number < 0 || context.state !== 'running')
     return -1;
   const channel = channels[number];
@@ -134,7 +134,7 @@ export function play(wanted, place) {
 }
 
 
-// Plays a piece again and again from its beginning; it takes so many seconds to reach its volume.
+// Plays a piece of music in a loop from its beginning; it fades in for `fadeIn` seconds.
 export function playMusic(place, fadeIn) {
   music.src = place + build;
   playing = true;

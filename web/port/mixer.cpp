@@ -1,6 +1,6 @@
-// Stands in for SDL_mixer: sounds and music are played by the browser. What the game holds as pointers are numbers of
-// sounds, and never looked into.
-// Only what the game calls is there, with the arguments it uses: no asking for a volume, and no setting of all at once.
+// Stands in for SDL_mixer: the browser plays sounds and music. The pointers that the game holds are numbers of sounds
+// and are never followed. Only what the game calls is
+// here, with the arguments it uses: no volume is asked for, and none is set for all channels at once.
 
 #include "port.h"
 
@@ -39,7 +39,7 @@ int Mix_AllocateChannels(int count) {
 void Mix_CloseAudio() { webSilence(); }
 
 
-// The only files that the game opens itself are sounds, by names that last: the name is all that is handed on.
+// The only files that the game opens itself are sounds, by names that stay valid, so only the name is passed on.
 SDL_RWops* SDL_RWFromFile(const char* path, const char* /*mode*/) {
     return reinterpret_cast<SDL_RWops*>(const_cast<char*>(path));
 }

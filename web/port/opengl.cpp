@@ -1,5 +1,5 @@
-// Stands in for OpenGL 1.x and GLU, which browsers don't have: collects what the game draws as triangles and hands
-// them to WebGL a whole frame at a time, so that a frame costs one upload and one call for each change of picture.
+// Stands in for OpenGL 1.x and GLU, which browsers don't have. Collects what the game draws as triangles and passes a
+// whole frame at a time to WebGL, so that a frame costs one upload and one call for each change of picture.
 
 #include "port.h"
 
@@ -14,7 +14,7 @@
 
 namespace {
 
-// The flat part of a matrix: the game turns, moves and scales only in the plane of the window.
+// The two-dimensional part of a matrix: the game turns, moves and scales only in the plane of the window.
 struct Plane {
     double xx = 1, xy = 0, yx = 0, yy = 1, x = 0, y = 0;
 };
@@ -28,7 +28,7 @@ Plane combined(const Plane& then, const Plane& first) {
 }
 
 
-// Corners are numbered with 16 bits, the widest that every WebGL takes.
+// Corners are numbered with 16 bits, the widest numbers that every WebGL takes.
 constexpr std::size_t MOST_CORNERS = 65536;
 
 std::vector<Plane> modelview(1);
@@ -70,7 +70,7 @@ void addFans(std::size_t begin, std::size_t end, std::size_t size) {
 }
 
 
-// Pictures with sides that are powers of two are the only ones that WebGL 1 makes mipmaps of, and GLU rounds so, too.
+// WebGL 1 makes mipmaps only of pictures whose sides are powers of two. GLU rounds the same way.
 int nearestPowerOfTwo(int side) {
     int power = 1;
     for (; side > 1 && side != 3; side /= 2)
@@ -79,8 +79,8 @@ int nearestPowerOfTwo(int side) {
 }
 
 
-// One direction of a change of size: each new pixel is the mean of the old ones under it. `step` and `line` are the
-// distances of pixels and of lines in bytes, in the old picture and in the new one.
+// Resizes in one direction: each new pixel is the mean of the old ones under it. `step` and `line` are the distances in
+// bytes between pixels and between lines, in the old picture and in the new one.
 struct Run {
     int pixels, step, line;
 };
@@ -112,7 +112,7 @@ Pixels resized(const std::uint8_t* pixels, int width, int height, int newWidth, 
 }
 
 
-// Most pictures have such sides already, and go as they are.
+// Most pictures have such sides already and are passed on unchanged.
 void upload(const void* given, int width, int height, bool mipmaps) {
     const auto* pixels = static_cast<const std::uint8_t*>(given);
     const int newWidth = nearestPowerOfTwo(width);
@@ -149,7 +149,7 @@ void glBegin(GLenum mode) {
 }
 
 
-// Quads are fans of four; polygons, which are convex, and fans are one fan each.
+// Each quad is a fan of four corners. Polygons, which are convex, and fans are one fan each.
 void glEnd() {
     if (!visible)
         return;
@@ -211,7 +211,7 @@ void gluOrtho2D(GLdouble left, GLdouble right, GLdouble bottom, GLdouble top) {
 }
 
 
-// Blending is always on, as the game wants it from its first frame.
+// Blending is always on, as the game sets it from its first frame.
 void glEnable(GLenum what) { texturing = texturing || what == GL_TEXTURE_2D; }
 
 

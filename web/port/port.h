@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
-// What the port asks of the browser; port.js answers.
+// What the port needs from the browser; port.js provides it.
 
-/// A corner of a triangle: its place, from -1 to 1 in each direction of the window, the place in the picture and the
+/// A corner of a triangle: its place in the window, from -1 to 1 in each direction, its place in the picture, and its
 /// colour.
 struct Corner {
     float x, y, s, t;
@@ -14,7 +14,7 @@ struct Corner {
 };
 static_assert(sizeof(Corner) == 20, "port.js tells WebGL where in these bytes each part of a corner lies");
 
-/// So many of the next indices show one picture; texture 0 is plain white.
+/// The next `indices` indices show the picture `texture`; texture 0 is plain white.
 struct Batch {
     unsigned texture;
     unsigned indices;
@@ -23,11 +23,11 @@ static_assert(sizeof(Batch) == 8, "port.js reads two numbers of 32 bits");
 
 extern "C" {
 
-/// Opens the canvas as the game's window, which has so many pixels.
+/// Opens the canvas as the game's window, with its size in pixels.
 void webOpen(int width, int height);
-/// Closes it and releases what was made for it, and tells the page.
+/// Closes the window, releases what was made for it, and tells the page.
 void webClose();
-/// Begins a frame: gives the canvas the size that it has on the page, and makes it black.
+/// Begins a frame: sets the size of the canvas to that on the page, and makes it black.
 void webClear();
 /// Draws triangles; `indices` name their corners.
 void webDraw(const Corner* corners, std::size_t cornerCount, const std::uint16_t* indices, std::size_t indexCount,
@@ -37,18 +37,19 @@ void webUpload(unsigned texture, int width, int height, const std::uint8_t* pixe
 /// Sets a parameter of a texture.
 void webFilter(unsigned texture, int name, int value);
 
-/// Returns when the browser wants a frame for which steps of the game are due, and says how many: not while the page
-/// rests.
+/// Waits until the browser wants a frame and steps of the game are due for it, and returns how many. Does not return
+/// while the page rests.
 unsigned webNextFrame();
 
-/// Takes the oldest input that was not taken yet: an SDL event type, a key or button, and a place in the window.
-/// Returns 0 if there is none.
+/// Takes the oldest pending input: an SDL event type, a key or button, and a place in the window. Returns 0 if there is
+/// none.
 int webInput(int input[4]);
 
-/// The pixels of a picture that the page has loaded, red, green, blue, alpha, to be freed; null if there is none.
+/// The pixels of a picture that the page has loaded, as red, green, blue, alpha; null if there is none. The caller
+/// frees them.
 std::uint8_t* webPicture(const char* path, int* width, int* height);
 
-/// The number of a sound, or of a piece of music. What has not arrived when it is to be played is not heard.
+/// The number of a sound or a piece of music. If it has not arrived when it is played, it is not heard.
 int webSound(const char* path);
 /// Makes the channels that sounds are played on.
 void webChannels(int count);
@@ -57,8 +58,7 @@ void webChannels(int count);
 int webPlay(int channel, int sound);
 /// Volumes are from 0 to 1.
 void webChannelVolume(int channel, double volume);
-/// Plays a piece of music again and again from its beginning, in the place of what was played; takes so many seconds to
-/// reach its volume.
+/// Plays a piece of music in a loop from its beginning, instead of the one before; it fades in for `fadeIn` seconds.
 void webPlayMusic(int music, double fadeIn);
 void webMusicVolume(double volume);
 /// Ends all sounds and music.
@@ -66,9 +66,9 @@ void webSilence();
 
 } // extern "C"
 
-/// Draws what was collected since the last time.
+/// Draws what was collected since the last call.
 void drawCollected();
-/// Whether what follows is drawn, or nobody will see it.
+/// Sets whether what follows will be seen; if not, it is not drawn.
 void setVisible(bool visible);
 
 #endif

@@ -1,9 +1,10 @@
 // What only the browser can do for the port; port.h says what each function promises.
 //
-// The page hands over, as fields of Module: gl (the canvas's WebGL context), sharpness (how many pixels of the canvas there
-// may be for one of the game), pictures (by place: width, height and pixels), sound (the functions of sound.js) and three
-// that are called: shown, when the first frame has been drawn; failed, with what the program broke down with; closed, when
-// the game has ended. The port adds what the page may do with a game that is shown: press(key), rest(), goOn(), halt().
+// The page passes these fields of Module: gl (the canvas's WebGL context), sharpness (how many pixels the canvas may
+// have for each of the game's), pictures (by path: width, height and pixels), sound (the functions of sound.js) and
+// three callbacks: shown, when the first frame has been drawn; failed, with the error that stopped the program; closed,
+// when the game has ended. The port adds what the page may call once the game is shown: press(key), rest(), goOn(),
+// halt().
 
 mergeInto(LibraryManager.library, {
   $Screen: {
@@ -57,8 +58,8 @@ mergeInto(LibraryManager.library, {
       Screen.program = program;
     },
 
-    // Gives the canvas as many pixels as the page shows, up to what the pictures and the machine are good for. It is black
-    // until it is drawn on, so this is done at the beginning of a frame.
+    // Gives the canvas as many pixels as the page shows, up to what the pictures and the machine allow. A resized
+    // canvas is black until it is drawn on, so this is done at the beginning of a frame.
     fit: function () {
       var gl = Module['gl'];
       var scale = Math.min(devicePixelRatio, Module['sharpness'] * Screen.width / Screen.area.width);
@@ -131,24 +132,25 @@ mergeInto(LibraryManager.library, {
     return pixels;
   },
 
-  // The game takes 60 steps a second on every display. Each frame of the display says how many are due: one and the same
-  // number wherever the display's pace allows it, for a step too many or too few is seen as a judder.
+  // The game takes 60 steps a second on every display. For each frame of the display this counts the steps that are
+  // due: always the same number where the display's pace allows it, because a step too many or too few looks like a
+  // judder.
   $Clock: {
     STEP: 1000 / 60, // milliseconds
-    MOST: 5, // steps for one frame: what is later still is not made up, or a slow machine would be ever later
+    MOST: 5, // steps for one frame: more are not caught up, or a slow machine would fall further and further behind
     interval: 1000 / 60, // of the display's frames, in milliseconds
     last: null, // when the display showed its last frame
-    owed: 0, // steps, and the part of one
+    owed: 0, // steps, with a fraction
 
-    // The steps for one frame of the display. Displays of 59.94 or 119.88 hertz are taken for what they are sold as.
+    // The steps for one frame of the display. Displays of 59.94 or 119.88 hertz count as what they are sold as.
     perFrame: function () {
       var steps = Clock.interval / Clock.STEP;
       var simple = steps > 1 ? Math.round(steps) : 1 / Math.round(1 / steps);
       return Math.abs(steps / simple - 1) < 0.01 ? simple : steps;
     },
 
-    // How many steps are due at a frame of this time. Times of frames are inexact, and some frames are left out: so
-    // frames are counted, and only what fits no number of them is measured by the clock.
+    // How many steps are due at a frame of this time. Times of frames are inexact, and some frames are left out. So
+    // frames are counted, and only a time that fits no number of them is measured by the clock.
     due: function (now) {
       var passed = Clock.last === null ? Clock.STEP : Math.max(0, now - Clock.last);
       Clock.last = now;
@@ -161,7 +163,7 @@ mergeInto(LibraryManager.library, {
       return Math.min(steps, Clock.MOST);
     },
 
-    wake: null, // goes on with the game, which waits for its next step
+    wake: null, // resumes the game, which waits for its next step
     request: 0, // for a frame of the display
     resting: false,
 
@@ -213,7 +215,7 @@ mergeInto(LibraryManager.library, {
     ESCAPE: 27,
     queue: [],
     held: null, // the pointer that holds the canvas
-    buttons: 0, // of it, that are down: the browser's bits
+    buttons: 0, // those of that pointer that are down: the browser's bits
 
     push: function (type, which, event) {
       if (Clock.resting)
@@ -225,7 +227,7 @@ mergeInto(LibraryManager.library, {
         : [type, which, 0, 0]);
     },
 
-    // The character on a key; where a layout has no Latin letters, the one that other keyboards have in its place.
+    // The character on a key; where a layout has no Latin letters, the one that other keyboards have there.
     character: function (event) {
       var place = /^Key([A-Z])$/.exec(event.code);
       if (/^[!-~]$/.test(event.key))
@@ -235,7 +237,7 @@ mergeInto(LibraryManager.library, {
       return place ? place[1].toLowerCase().charCodeAt(0) : 0;
     },
 
-    // What the browser or the page's own buttons need a key for, the game doesn't get; nor the Escape that leaves the full
+    // The game gets no keys that the browser or the page's own buttons need, nor the Escape that leaves the full
     // screen.
     key: function (event) {
       var escape = event.key === 'Escape';
@@ -248,8 +250,8 @@ mergeInto(LibraryManager.library, {
         Input.push(Input.KEY, escape ? Input.ESCAPE : Input.character(event));
     },
 
-    // The canvas belongs to the first pointer that presses it, until that has let go of all its buttons or is taken away;
-    // what other fingers do meanwhile, there or beside it, is not heard. A finger is the left button.
+    // The canvas belongs to the first pointer that presses it, until that pointer has released all its buttons or is
+    // gone. Other fingers are ignored meanwhile, on the canvas or beside it. A finger is the left button.
     pointer: function (event) {
       if (Input.held === null && event.type === 'pointerdown') {
         event.target.setPointerCapture(event.pointerId);
@@ -265,7 +267,7 @@ mergeInto(LibraryManager.library, {
         Input.press(taken ? 0 : event.buttons, event);
     },
 
-    // A second button of a mouse comes as a motion: so it is asked which buttons are down now.
+    // A second mouse button arrives as a motion, so compare which buttons are down now.
     press: function (buttons, event) {
       Input.BUTTONS.forEach(function (button) {
         if ((Input.buttons ^ buttons) & button[0])
@@ -286,7 +288,7 @@ mergeInto(LibraryManager.library, {
       }
       listen(window, 'keydown', Input.key);
       listen(canvas, 'pointermove pointerdown pointerup pointercancel lostpointercapture', Input.pointer);
-      // With Ctrl, or two fingers on a touchpad, it changes the size of the page.
+      // With Ctrl, or with two fingers on a touchpad, it zooms the page.
       listen(canvas, 'wheel', function (event) {
         if (event.ctrlKey)
           return;

@@ -1,5 +1,5 @@
 // Stands in for SDL and SDL_image: the canvas is the window, the page's input its events, and surfaces are plain memory
-// of four bytes a pixel. Also for the disk: there is none, so every file is missing.
+// of four bytes a pixel. Stands in for the disk too: there is none, so every file is missing.
 
 #include "port.h"
 
@@ -71,8 +71,8 @@ Uint32 SDL_GetTicks() { return static_cast<Uint32>(emscripten_get_now()); }
 void SDL_Delay(Uint32 /*milliseconds*/) {}
 
 
-// The browser shows a frame when the program gives it its turn. Steps that are late follow at once; the last of them is
-// what the next frame shows.
+// The browser shows a frame when the program gives it time. Late steps follow at once; the next frame shows the last of
+// them.
 void SDL_GL_SwapBuffers() {
     static unsigned stepsDue = 1;
     drawCollected();
