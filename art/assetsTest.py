@@ -1,5 +1,5 @@
 #!/usr/bin/env -S SDL_AUDIODRIVER=dummy /usr/bin/python3
-# The pictures and sounds that the game loads, examined without starting it. Run in the folder that holds Assets/.
+# Examines the pictures and sounds that the game loads, without starting it. Run in the folder that holds Assets/.
 import ctypes
 import pathlib
 import re
@@ -10,7 +10,7 @@ import wave
 SOURCES = "".join(file.read_text() for file in pathlib.Path("src").rglob("*.cpp"))
 PICTURES, SOUNDS = (sorted({pathlib.Path(name) for name in re.findall(f'"(Assets/(?:{folder})/[^"]+)"', SOURCES)})
                     for folder in ("img", "sfx|music"))
-# What the names of pictures don't say: the title fills the window, sheets hold so many columns and rows of cells.
+# What the names of pictures don't say: the title fills the window, and sheets have this many columns and rows of cells.
 PROPORTIONS = {"TitleScreen": 4 / 3, "VorelDefense_explosions_64": 8 / 2, "tileSet_v2_32x32": 3 / 6}
 MARGINS = {"VorelDefense_grunts": (4, 4, 4), "VorelDefense_explosions_64": (8, 2, 4), "Numbers_320x64": (10, 1, 2)}  # pixels
 SECONDS = {"WaterStream": (0.2, 0.3), "WaterSplash": (0.25, 0.4), "EnnemyExplosion": (0.6, 1), "EnnemyGrunt": (0.3, 0.6),
@@ -22,7 +22,7 @@ SECONDS = {"WaterStream": (0.2, 0.3), "WaterSplash": (0.25, 0.4), "EnnemyExplosi
 class Assets(unittest.TestCase):
     def testPicturesHaveTheirProportionsAndSheetsKeepMargins(self):
         for file in PICTURES or self.fail("The sources name no pictures."):
-            # After the size, the alpha of every pixel; a warning of the decoder is an error.
+            # The size comes first, then the alpha of every pixel. A warning from the decoder is an error.
             picture = subprocess.check_output(["convert", "-regard-warnings", file, "-alpha", "extract", "-depth", "8", "pgm:-"])
             width, height = map(int, picture.split(maxsplit=3)[1:3])
             size = re.search(r"_(\d+)x(\d+)$", file.stem)

@@ -14,7 +14,7 @@ WIDTH, HEIGHT = 1024, 256
 
 
 def dry_dial(x, y, r):
-    """A pressure dial whose needle lies at nothing."""
+    """A pressure dial whose needle points to zero."""
     parts = [enamel.bezel(x, y, r, 9, 2.5), enamel.circle(x, y, r, "url(#cream)")]
     for i in range(11):
         angle = math.radians(225 - 27 * i)

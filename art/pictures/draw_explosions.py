@@ -12,7 +12,7 @@ import palette as p
 import shapes as s
 
 FRAME = 96
-IMPACT = (12.5, 83.5)  # where the game turns the splash about
+IMPACT = (12.5, 83.5)  # the point that the game turns the splash around
 
 
 def splat(x, y, inner, outer, lobes, rng):

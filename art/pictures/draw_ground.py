@@ -20,7 +20,7 @@ CELL = 32            # a cell in screen pixels, the unit of everything below
 SCALE = 16           # pixels a unit while drawing
 AROUND = 8           # units drawn beyond the cell
 SHEET = (512, 1024)  # a power of two, so that OpenGL takes the sheet as it is
-# The game shows the middle of each tile only: it leaves away 0.01 of the sheet on every side.
+# The game shows only the middle of each tile: it cuts off 0.01 of the sheet on every side.
 CROP_X, CROP_Y = .01 * 3, .01 * 6
 MIDDLE = CELL / 2    # where a shore meets the cell's border
 ROUND = .4           # the corners' bend: 0 would be a slant, .55 a quarter of a circle
@@ -175,7 +175,7 @@ def shoreline(tile):
 
 
 def depth(line, x, y):
-    """How far inside the meadow points lie, in units; below nought is grass."""
+    """How far inside the meadow points lie, in units; below zero is grass."""
     nearest, inside = numpy.full(x.shape, 1e9), numpy.zeros(x.shape)
     for (ax, ay), (bx, by) in zip(line, line[1:]):
         ux, uy = bx - ax, by - ay
@@ -297,7 +297,7 @@ def shore_growth(tile):
 
 
 def draw_tile(tile, grass_cell, meadow_cell):
-    """A tile with what lies around it, and so much of that as the game cuts off."""
+    """A tile with as much of its surroundings as the game cuts off."""
     pad = AROUND * SCALE
     size = (CELL + 2 * AROUND) * SCALE
     around = ((pad, pad), (pad, pad), (0, 0))

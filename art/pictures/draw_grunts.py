@@ -1,7 +1,7 @@
 """The grunts: sludge on two legs, in a hard hat and a gas mask. Four facings by four steps.
 
 Rows from the top: right, up, left, down. In the side rows the feet pass each other: apart, one
-lifted, apart the other way round, the other lifted; from the front one foot after the other
+lifted, apart with the other in front, the other lifted; from the front one foot after the other
 comes forward. The light stays at the upper left, so the left row is drawn and not mirrored.
 Thirty-two pixels hold few things: a light body, a dark hat, white eyes, the magenta filter, boots.
 """

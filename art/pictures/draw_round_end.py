@@ -66,7 +66,7 @@ def board():
         parts.append(enamel.circle(x, up(y), r, RED_DARK))
     parts.append(enamel.lettering("pollution", "text", 33, 697, up(214), OUTLINE, "start"))
 
-    # the way on
+    # how to continue
     parts.append(enamel.plate(150, up(264), 474, 62, 18, rim_width=5, outline=2, pin=False, heads=3.2))
     parts.append(enamel.lettering("click to continue", "text", 48, 387, up(219), "url(#ink-cream)", tracking=1,
                                   outline=1.6))

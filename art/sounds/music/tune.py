@@ -20,7 +20,7 @@ SCALE = (0, 2, 3, 5, 7, 8, 10)
 
 
 def above(pitch, steps):
-    """The note so many steps of the G minor scale above a note of that scale, or below it."""
+    """The note that many steps of the G minor scale above a note of that scale, or below it."""
     octave, degree = divmod(pitch - 7, 12)
     octave, degree = divmod(octave * 7 + SCALE.index(degree) + steps, 7)
     return 7 + octave * 12 + SCALE[degree]
