@@ -95,9 +95,7 @@ TEST_F(Pictures, initFullScreenSetsTheFirstModeOfSeveral) {
 TEST_F(Pictures, initFullScreenChangesNothingWhereNoModesAreListed) {
     for (const long answer : {0L, -1L}) { // no modes, or any mode will do
         window.modes = reinterpret_cast<SDL_Rect**>(answer);
-        unsigned int size = 7;
-        EXPECT_EQ(initFullScreen(&size, &size), 0);
-        EXPECT_EQ(size, 7U);
+        EXPECT_EQ(initFullScreen(nullptr, nullptr), 0);
     }
     EXPECT_EQ(calls, Lines{});
 }

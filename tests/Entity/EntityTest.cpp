@@ -39,6 +39,20 @@ struct Combat : GameTest {
 };
 
 
+TEST_F(Combat, whatAnObjectIsBuiltWithCanBeAskedFor) {
+    const Beam beam(1, 2, 3, {0, 0}, 4, 5, {1, 0});
+    const Weapon weapon({0, 0}, "", 1, 2, 3, 4, 5, 6, 7, 8);
+    const Ennemi ennemi({0, 0}, 1, 2, 3, 4, 5, "");
+    // clang-format off
+    expectAsRecorded("built", {
+        SHOW(beam.getWidth()), SHOW(beam.getRange()), SHOW(beam.getDamage()), SHOW(beam.getLength()),
+        SHOW(weapon.getWaterConsume()), SHOW(weapon.getRadius()), SHOW(weapon.getBeamRadius()), SHOW(weapon.getDamage()),
+        SHOW(ennemi.getHealth()), SHOW(ennemi.getSpeed()), SHOW(ennemi.getPolution()), SHOW(ennemi.getCollideBoxHeigth()),
+        SHOW(game.getLargeur()), SHOW(game.getHauteur()), SHOW(game.getLargeurCase()), SHOW(game.getHauteurCase())});
+    // clang-format on
+}
+
+
 TEST_F(Combat, isCollidingWhenDiscsOfSolidActiveObjectsOverlap) {
     Ennemi gone = grunt;
     gone.onCollideTower(&tower);

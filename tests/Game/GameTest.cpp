@@ -50,10 +50,10 @@ TEST_F(GameTest, theDefeatFadesInAnewAfterARestart) {
 
 TEST_F(GameTest, spawnEnnemiChoosesAPlaceOutsideTheEdgesByTheClock) {
     // Close to the end of each edge, where the next one begins. The low 32 bits decide.
-    const std::pair<long long, Vecteur2D> cases[] = {{101 + (1LL << 32), {-30, 1022.5747}},
-                                                     {19, {765.1972, 798}},
-                                                     {21, {1054, 940.0601}},
-                                                     {139199, {512.0011, -30}}};
+    // clang-format off
+    const std::pair<long long, Vecteur2D> cases[] = {
+        {101 + (1LL << 32), {-30, 1022.5747}}, {19, {765.1972, 798}}, {21, {1054, 940.0601}}, {139199, {512.0011, -30}}};
+    // clang-format on
     for (const auto& [nanoseconds, place] : cases) {
         clocks.nanoseconds = nanoseconds;
         EXPECT_NEAR(game.spawnEnnemi().distance(place), 0, 1e-4) << place;

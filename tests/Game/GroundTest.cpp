@@ -2,8 +2,6 @@
 #include "standin/standin.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <tuple>
 
 static const Ground meadow(32, std::vector<int>(24, 0));
 struct GroundTest : StandinTest {};
@@ -70,7 +68,7 @@ TEST_F(GroundTest, drawSolShowsTheTileOfEachCellInItsPlace) {
         const Vertex* corner = &screen.longBatch[4 * cell];
         EXPECT_EQ(corner[0].place, 32.0 * place);
         EXPECT_EQ(corner[2].place, 32.0 * place + Point(32, 32));
-        EXPECT_NEAR(std::abs(corner[0].spot - upperLeft - Point(0.01, 0.01 - 1 / 6.0)), 0, 1e-9) << place;
-        EXPECT_NEAR(std::abs(corner[2].spot - upperLeft - Point(1 / 3.0 - 0.01, -0.01)), 0, 1e-9) << place;
+        EXPECT_NEAR(std::norm(corner[0].spot - upperLeft - Point(0.01, 0.01 - 1 / 6.0)), 0, 1e-18) << place;
+        EXPECT_NEAR(std::norm(corner[2].spot - upperLeft - Point(1 / 3.0 - 0.01, -0.01)), 0, 1e-18) << place;
     }
 }

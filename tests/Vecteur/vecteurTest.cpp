@@ -17,8 +17,7 @@ static std::string errorOf(const std::function<void()>& act) {
     return "no error";
 }
 
-// What an operation gives, or raises.
-#define SHOW(operation) joined(#operation, "gives", operation)
+// What an operation raises.
 #define REFUSE(...) joined(#__VA_ARGS__, "raises", errorOf([&] { __VA_ARGS__; }))
 
 

@@ -37,6 +37,9 @@ std::string joined(const std::string& name, const Values&... values) {
     return (name + ... + (" " + toString(values)));
 }
 
+/// The text of an operation, and what it gives.
+#define SHOW(operation) joined(#operation, "gives", operation)
+
 /// Records a call. The answer is 0, which says that all went well.
 template <typename... Values>
 int call(const std::string& name, const Values&... values) {
