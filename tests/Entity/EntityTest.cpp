@@ -48,6 +48,7 @@ TEST_F(Combat, whatAnObjectIsBuiltWithCanBeAskedFor) {
         SHOW(beam.getWidth()), SHOW(beam.getRange()), SHOW(beam.getDamage()), SHOW(beam.getLength()),
         SHOW(weapon.getWaterConsume()), SHOW(weapon.getRadius()), SHOW(weapon.getBeamRadius()), SHOW(weapon.getDamage()),
         SHOW(ennemi.getHealth()), SHOW(ennemi.getSpeed()), SHOW(ennemi.getPolution()), SHOW(ennemi.getCollideBoxHeigth()),
+        SHOW(tower.getCollideBoxWidth()), SHOW(weapon.getCollideBoxWidth()),
         SHOW(game.getLargeur()), SHOW(game.getHauteur()), SHOW(game.getLargeurCase()), SHOW(game.getHauteurCase())});
     // clang-format on
 }
@@ -132,13 +133,6 @@ TEST_F(Combat, aJetBurstsOnce) {
 }
 
 
-TEST_F(Combat, aBurstJetHurtsNobody) {
-    jet.onCollideEnnemi(&grunt);
-    other.onCollideBeam(&jet);
-    EXPECT_EQ(other.getHealth(), 100);
-}
-
-
 TEST_F(Combat, aGruntFacesTheTower) {
     // Each place of a grunt, and the lower edge of the row of pictures that shows it there: around the tower and on it,
     // on the diagonals, and half a degree to both sides of each.
@@ -169,8 +163,8 @@ TEST_F(Combat, aGruntWithoutHealthExplodesWalking) {
 
 
 TEST_F(Combat, aGruntCriesWhenItDiesAndAtEveryFurtherHit) {
-    for (int hit = 0; hit < 3; ++hit)
-        grunt.removeHealth(50);
+    for (const double damage : {99.5, 0.5, 50.0})
+        grunt.removeHealth(damage);
     EXPECT_EQ(mixer.sounds, (Lines{"EnnemyExplosion", "EnnemyGrunt", "EnnemyExplosion", "EnnemyGrunt"}));
 }
 

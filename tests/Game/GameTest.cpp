@@ -49,10 +49,11 @@ TEST_F(GameTest, theDefeatFadesInAnewAfterARestart) {
 
 
 TEST_F(GameTest, spawnEnnemiChoosesAPlaceOutsideTheEdgesByTheClock) {
-    // Close to the end of each edge, where the next one begins. The low 32 bits decide.
+    // Where one edge ends and the next one begins. The low 32 bits decide.
     // clang-format off
     const std::pair<long long, Vecteur2D> cases[] = {
-        {101 + (1LL << 32), {-30, 1022.5747}}, {19, {765.1972, 798}}, {21, {1054, 940.0601}}, {139199, {512.0011, -30}}};
+        {101 + (1LL << 32), {-30, 1022.5747}}, {19, {765.1972, 798}}, {612, {1054, 4.0368}}, {21, {1054, 940.0601}},
+        {82, {1.3775, -30}}};
     // clang-format on
     for (const auto& [nanoseconds, place] : cases) {
         clocks.nanoseconds = nanoseconds;

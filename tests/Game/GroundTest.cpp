@@ -64,11 +64,14 @@ TEST_F(GroundTest, drawSolShowsTheTileOfEachCellInItsPlace) {
     for (int cell = 0; cell < 32 * 24; ++cell) {
         const Point place(cell / 24, cell % 24);
         const int tile = tiles[cell / 24][cell % 24];
-        const Point upperLeft(tile % 3 / 3.0, 1 - tile / 3 / 6.0);
-        const Vertex* corner = &screen.longBatch[4 * cell];
-        EXPECT_EQ(corner[0].place, 32.0 * place);
-        EXPECT_EQ(corner[2].place, 32.0 * place + Point(32, 32));
-        EXPECT_NEAR(std::norm(corner[0].spot - upperLeft - Point(0.01, 0.01 - 1 / 6.0)), 0, 1e-18) << place;
-        EXPECT_NEAR(std::norm(corner[2].spot - upperLeft - Point(1 / 3.0 - 0.01, -0.01)), 0, 1e-18) << place;
+        const Point low(tile % 3 / 3.0 + 0.01, (5 - tile / 3) / 6.0 + 0.01);
+        const Point high = low + Point(1 / 3.0 - 0.02, 1 / 6.0 - 0.02);
+        const Point offsets[] = {{0, 0}, {0, 32}, {32, 32}, {32, 0}};
+        const Point spots[] = {low, {low.real(), high.imag()}, high, {high.real(), low.imag()}};
+        for (int i = 0; i < 4; ++i) {
+            const Vertex& corner = screen.longBatch[4 * cell + i];
+            EXPECT_EQ(corner.place, 32.0 * place + offsets[i]);
+            EXPECT_NEAR(std::norm(corner.spot - spots[i]), 0, 1e-18) << place;
+        }
     }
 }

@@ -28,7 +28,7 @@ TEST(Vecteur, calculatesJoinsSlicesAndPrints) {
         SHOW(2.5 * abc), SHOW(abc.scale(def)), SHOW(abc * def), SHOW(abc ^ def), SHOW(two.compose(abc)),
         SHOW(abc.cut(1, 2)), SHOW(abc.cut(7, 0)), SHOW(abc.getSubVecteur(1, 2)), SHOW(abc.getSubVecteur(2, 1)),
         SHOW(Vecteur(3.9, 1.5)), SHOW(Vecteur(-2, 7)), SHOW(Vecteur(2, 0).normalise()),
-        SHOW(two.distance(Vecteur(2, 0))), SHOW(two != Vecteur(2, 4)), SHOW(Vecteur(1, 1e6))});
+        SHOW(two.distance(Vecteur(2, 0))), SHOW(two != Vecteur(2, 4)), SHOW(Vecteur(1, 1e6)), SHOW(Vecteur2D())});
     // clang-format on
     EXPECT_EQ(two.normalise(), Vecteur({3 * 0.2, 4 * 0.2})) << "multiplies by the reciprocal";
 }

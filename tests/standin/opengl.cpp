@@ -44,8 +44,8 @@ void draw(const Vertex* vertex, size_t count) {
 
 
 void drawLine(const Vertex& from, const Vertex& to) {
-    const std::string end = text(to.place) + "," + toString(to.depth) + " ";
-    screen.drawn.push_back("line" + text(from.place) + end + screen.lineStyle() + to.colour);
+    const auto end = [](const Vertex& vertex) { return text(vertex.place) + "," + toString(vertex.depth); };
+    screen.drawn.push_back("line" + end(from) + end(to) + " " + screen.lineStyle() + to.colour);
 }
 
 } // namespace
