@@ -12,7 +12,7 @@
   }
 
   if (location.protocol === 'file:') {
-    say('Opened as a file, the page may not load the game: it has to come from a web server.');
+    say('Opened as a file, this page can\'t load the game. Please open it from a web server.');
     return;
   }
   if (!('noModule' in script) || !Array.prototype.at || !window.HTMLDialogElement) {
@@ -24,7 +24,7 @@
   script.type = 'module';
   script.src = 'page.js?@BUILD@';
   script.onerror = function () {
-    say('The page did not arrive as a whole: one of its scripts is missing.');
+    say('The page did not load completely: one of its scripts is missing.');
     start.hidden = false;
     start.disabled = false;
     start.textContent = 'Load again';

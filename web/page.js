@@ -57,8 +57,8 @@ function breakOff(words) {
 
 
 function fail(error) {
-  breakOff('The game stopped by itself, and that is a fault of ours. ' +
-    `Version ${element('version').textContent} says: ${error?.message || error}`);
+  breakOff('The game stopped, and that is a fault of ours. ' +
+    `Version ${element('version').textContent} reports: ${error?.message || error}`);
 }
 
 
@@ -113,7 +113,7 @@ async function load(file) {
     else
       images[place] = await picture(await fetchBytes(file));
   } catch (error) {
-    throw new Error(`${place} did not arrive: ${error.message}.`);
+    throw new Error(`${place} did not load: ${error.message}.`);
   }
 }
 
@@ -211,7 +211,7 @@ async function play() {
     if (!gl)
       openCanvas();
     if (!gl) {
-      breakOff('This browser shows no WebGL, which the game is drawn with. It may be switched off in the browser\'s settings.');
+      breakOff('This browser offers no WebGL, which the game needs. It may be switched off in the browser\'s settings.');
       return;
     }
     await readPictures();
@@ -257,7 +257,7 @@ function run() {
 
 
 // Nothing moves and nothing is heard until the player continues.
-function takeRest(words = 'The game waits for you.', mayRestart = false) {
+function takeRest(words = 'The game is waiting for you.', mayRestart = false) {
   if (state !== 'playing')
     return;
   state = 'resting';
@@ -333,6 +333,6 @@ window.visualViewport?.addEventListener('resize', () =>
   document.documentElement.classList.toggle('enlarged', visualViewport.scale > 1));
 
 if (typeof WebAssembly !== 'object')
-  breakOff('This browser runs no WebAssembly, which the game is made of. Any current one will do.');
+  breakOff('This browser offers no WebAssembly, which the game needs. Any current one will do.');
 else
   loadAll();

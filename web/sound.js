@@ -6,7 +6,7 @@ const build = new URL(import.meta.url).search;
 
 const sounds = new Map(); // place: decoded sound
 let channels = []; // {volume: its gain node, source: what it plays or played last, end: when that ends}
-let context;
+let context; // none before the first press, nor in a browser that can't open sound: then the game is silent
 let speaker; // the node that all sound goes to
 let music; // the one player of all music
 let musicNode;
@@ -52,7 +52,11 @@ export function open() {
   // The game plays alongside what the player listens to, and the switch on a phone's side silences it.
   if (navigator.audioSession)
     navigator.audioSession.type = 'ambient';
-  context = new AudioContext();
+  try {
+    context = new AudioContext();
+  } catch {
+    return;
+  }
   context.onstatechange = () => awake && wake();
   speaker = context.createGain();
   speaker.gain.value = off ? 0 : 1;
@@ -79,6 +83,8 @@ function ask(promise) {
 // is suspended when the interruption is over. It must not be resumed before: its clock would stand still.
 export function wake() {
   awake = true;
+  if (!context)
+    return;
   if (context.state === 'suspended')
     ask(context.resume());
   if (playing && music.paused && !music.error)
@@ -97,11 +103,14 @@ export function rest() {
 
 // Works even before the browser allows any sound.
 export async function add(place, bytes) {
-  sounds.set(place, await new OfflineAudioContext(2, 1, 44100).decodeAudioData(bytes));
+  if (context)
+    sounds.set(place, await new OfflineAudioContext(2, 1, 44100).decodeAudioData(bytes));
 }
 
 
 export function setChannels(count) {
+  if (!context)
+    return;
   channels = Array.from({length: count}, () => {
     const volume = context.createGain();
     volume.connect(speaker);
@@ -111,12 +120,15 @@ export function setChannels(count) {
 
 
 export function setChannelVolume(channel, volume) {
-  channels[channel].volume.gain.value = volume;
+  if (context)
+    channels[channel].volume.gain.value = volume;
 }
 
 
 // Plays a sound on the given channel, or on the first free one for -1; returns the channel, -1 if there is none.
 export function play(wanted, place) {
+  if (!context)
+    return -1;
   const sound = sounds.get(place);
   const now = context.currentTime;
   const number = wanted < 0 ? channels.findIndex(channel => channel.end <= now) : wanted;
@@ -136,6 +148,8 @@ export function play(wanted, place) {
 
 // Plays a piece of music in a loop from its beginning; it fades in for `fadeIn` seconds.
 export function playMusic(place, fadeIn) {
+  if (!context)
+    return;
   music.src = place + build;
   playing = true;
   fadeMusic(fadeIn);
@@ -146,7 +160,8 @@ export function playMusic(place, fadeIn) {
 
 export function setMusicVolume(volume) {
   musicVolume = volume;
-  fadeMusic(0);
+  if (context)
+    fadeMusic(0);
 }
 
 

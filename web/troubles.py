@@ -164,7 +164,7 @@ for script in "page.js", "sound.js":
     def no_page_script(page, script=script):
         page.call("Network.setBlockedURLs", urls=[f"*/{script}*"])
         page.visit()
-        page.says("did not arrive")
+        page.says("did not load")
         page.call("Network.setBlockedURLs", urls=[])
         page.offered("Load again")
         page.click("start")
@@ -175,7 +175,7 @@ for script in "page.js", "sound.js":
 def no_picture(page):
     page.call("Network.setBlockedURLs", urls=["*PauseButton*"])
     page.visit()
-    page.says("PauseButton_64", "did not arrive")
+    page.says("PauseButton_64", "did not load")
     page.call("Network.setBlockedURLs", urls=[])
     page.offered("Load again")
     page.value("window.old = true")
@@ -197,10 +197,21 @@ for what, script, words in (
         if words not in page.text():
             page.play()
         page.says(words)
-        require("fault of ours" not in page.text() and "did not arrive" not in page.text(), page.text())
+        require("fault of ours" not in page.text() and "did not load" not in page.text(), page.text())
 
 
 # Hands.
+
+@trouble("a browser can't open sound", "the game is played in silence")
+def no_sound(page):
+    page.before("window.AudioContext = class { constructor() { throw new Error('no sound'); } };")
+    page.turret()
+    page.goes_on()
+    page.key("Escape", "Escape")
+    page.offered("Play again")
+    page.click("start")
+    page.goes_on()
+
 
 @trouble("a thumb rests beside the canvas", "another finger plays")
 def thumb(page):
@@ -524,9 +535,9 @@ def picture_first(page):
     page.offered("Play")
 
 
-@trouble("the scripts are on their way for long", "the front is painted all the same")
+@trouble("scripts and style are on their way for long", "the front is painted all the same")
 def paint_first(page):
-    page.hold("*.js*")
+    page.hold("*.js*", "*.css*")
     page.visit()
     page.wait_for("the first paint", lambda: page.value(
         "performance.getEntriesByName('first-contentful-paint').length"))
@@ -597,7 +608,7 @@ def no_sounds(page):
     page.field()
     time.sleep(1)
     page.goes_on()
-    require("did not arrive" not in page.text(), page.text())
+    require("did not load" not in page.text(), page.text())
 
 
 # The canvas.
