@@ -48,7 +48,7 @@ TEST_F(Combat, whatAnObjectIsBuiltWithCanBeAskedFor) {
         SHOW(beam.getWidth()), SHOW(beam.getRange()), SHOW(beam.getDamage()), SHOW(beam.getLength()),
         SHOW(weapon.getWaterConsume()), SHOW(weapon.getRadius()), SHOW(weapon.getBeamRadius()), SHOW(weapon.getDamage()),
         SHOW(ennemi.getHealth()), SHOW(ennemi.getSpeed()), SHOW(ennemi.getPolution()), SHOW(ennemi.getCollideBoxHeigth()),
-        SHOW(tower.getCollideBoxWidth()), SHOW(weapon.getCollideBoxWidth()),
+        SHOW(std::as_const(tower).getPos()), SHOW(tower.getCollideBoxWidth()), SHOW(weapon.getCollideBoxWidth()),
         SHOW(game.getLargeur()), SHOW(game.getHauteur()), SHOW(game.getLargeurCase()), SHOW(game.getHauteurCase())});
     // clang-format on
 }
@@ -71,7 +71,7 @@ TEST_F(Combat, isCollidingWhenDiscsOfSolidActiveObjectsOverlap) {
 
 
 TEST_F(Combat, getPosCaseIsTheCellUnderTheObject) {
-    grunt.setPosition({100, 70});
+    grunt.setPosition({127.9, 64});
     EXPECT_EQ(grunt.getPosCase(), Vecteur2D(3, 2));
     grunt.setPosition({-31.9, 63.9});
     EXPECT_EQ(grunt.getPosCase(), Vecteur2D(0, 1)) << "beyond the left edge too";
