@@ -4,10 +4,10 @@
 #include <fstream>
 #include <ios>
 
-struct Sound : StandinTest {};
+struct Audio : StandinTest {};
 
 
-TEST_F(Sound, loadMusicRefusesWhatCannotBeginATrack) {
+TEST_F(Audio, loadMusicRefusesWhatCannotBeginATrack) {
     // The tag's header of ten bytes gives its length: another 129 bytes.
     const std::string tag = std::string("ID3\3\0\0\0\0\1\1", 10) + std::string(129, 'x');
     // clang-format off
