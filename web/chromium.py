@@ -6,7 +6,7 @@ import urllib.request
 
 import websocket
 
-from visitor import Refusal, Visitor
+from visitor import Refusal, SocketVisitor
 from window import HEIGHT, WIDTH
 
 BAR = 56  # the column of buttons beside the canvas
@@ -17,14 +17,13 @@ FLAGS = """--no-sandbox --kiosk --no-first-run --disable-quic --disable-backgrou
   --remote-debugging-port=0""".split()
 
 
-class Chromium(Visitor):
+class Chromium(SocketVisitor):
     """Chromium without a page. It fills the display, so that the canvas is as large as the window of the program and
     lies where that would."""
 
     def __init__(self, *flags, screen=(WIDTH + BAR, HEIGHT)):
         self.profile = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
         self.complaints = []
-        self.calls = 0
         # A window without a frame is a pixel smaller than its display.
         screen = screen[0] + 1, screen[1] + 1
         super().__init__("/usr/bin/chromium", screen=screen, quiet=True, arguments=[
@@ -41,7 +40,7 @@ class Chromium(Visitor):
 
     def connect(self, tab):
         self.tab = tab
-        self.socket = websocket.create_connection(tab["webSocketDebuggerUrl"], timeout=120)
+        self.use_socket(websocket.create_connection(tab["webSocketDebuggerUrl"], timeout=120))
         for domain in "Runtime", "Log", "Network", "Page":
             self.call(domain + ".enable")
 
@@ -55,18 +54,6 @@ class Chromium(Visitor):
     def __exit__(self, *_):
         super().__exit__()
         self.profile.cleanup()
-
-    def call(self, method, **parameters):
-        """One command of the browser's debugging interface; notes every complaint that comes before the answer."""
-        self.calls += 1
-        self.socket.send(json.dumps({"id": self.calls, "method": method, "params": parameters}))
-        while True:
-            message = json.loads(self.socket.recv())
-            if message.get("id") == self.calls:
-                if "error" in message:
-                    raise Refusal(f"{method}: {message['error']}")
-                return message["result"]
-            self.note(message.get("method"), message.get("params"))
 
     def note(self, method, about):
         if method == "Runtime.exceptionThrown":

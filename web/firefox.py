@@ -6,7 +6,7 @@ import tempfile
 
 import websocket
 
-from visitor import Refusal, Visitor, actions
+from visitor import Refusal, SocketVisitor, actions
 
 # Nothing is looked for outside this machine, and nothing covers the page.
 PREFERENCES = """
@@ -27,7 +27,7 @@ def start_loudspeaker(folder):
         env={**os.environ, "HOME": folder, "XDG_RUNTIME_DIR": folder}, stderr=subprocess.DEVNULL)
 
 
-class Firefox(Visitor):
+class Firefox(SocketVisitor):
     """Firefox without a page."""
 
     def __init__(self):
@@ -35,7 +35,6 @@ class Firefox(Visitor):
         with open(os.path.join(self.profile.name, "user.js"), "w", encoding="utf-8") as preferences:
             preferences.write(PREFERENCES)
         self.complaints = []
-        self.calls = 0
         super().__init__("/usr/bin/firefox-esr", quiet=True, HOME=self.profile.name,
                          PULSE_SERVER=f"unix:{self.profile.name}/loudspeaker", arguments=[
                              "--kiosk", "--remote-debugging-port", "0", "--profile", self.profile.name, "about:blank"])
@@ -51,7 +50,7 @@ class Firefox(Visitor):
         self.wait_for("Firefox", lambda: os.path.exists(known) and os.path.getsize(known), 120)
         with open(known, encoding="utf-8") as file:
             port = json.load(file)["ws_port"]
-        self.socket = websocket.create_connection(f"ws://127.0.0.1:{port}/session", timeout=300, suppress_origin=True)
+        self.use_socket(websocket.create_connection(f"ws://127.0.0.1:{port}/session", timeout=300, suppress_origin=True))
         self.call("session.new", capabilities={})
         self.tab = self.wait_for("a tab", lambda: self.call("browsingContext.getTree")["contexts"])[0]["context"]
         self.call("session.subscribe", events=["log.entryAdded", "network.fetchError", "network.responseCompleted"])
@@ -61,18 +60,6 @@ class Firefox(Visitor):
         self.loudspeaker.kill()
         self.loudspeaker.wait()
         self.profile.cleanup()
-
-    def call(self, method, **parameters):
-        """One command of the protocol; notes every complaint that comes before the answer."""
-        self.calls += 1
-        self.socket.send(json.dumps({"id": self.calls, "method": method, "params": parameters}))
-        while True:
-            message = json.loads(self.socket.recv())
-            if message.get("id") == self.calls:
-                if "error" in message:
-                    raise Refusal(f"{method}: {message}")
-                return message["result"]
-            self.note(message.get("method"), message.get("params"))
 
     def note(self, method, about):
         if method == "log.entryAdded" and about["level"] in ("warn", "error"):

@@ -1,5 +1,6 @@
 """What a browser has in common with every other, when it visits the game's page on a virtual display."""
 import base64
+import json
 import subprocess
 import sys
 import time
@@ -87,3 +88,24 @@ class Visitor(Window):
             return seen(pictures[0])
         self.wait_for(what, satisfied, seconds)
         return pictures[0]
+
+
+class SocketVisitor(Visitor):
+    """A browser that takes commands over its `socket`, and between the answers tells of events, which its kinds `note`.
+    """
+
+    def use_socket(self, socket):
+        self.socket = socket
+        self.calls = 0
+
+    def call(self, method, **parameters):
+        """One command; notes every event that comes before its answer."""
+        self.calls += 1
+        self.socket.send(json.dumps({"id": self.calls, "method": method, "params": parameters}))
+        while True:
+            message = json.loads(self.socket.recv())
+            if message.get("id") == self.calls:
+                if "error" in message:
+                    raise Refusal(f"{method}: {message}")
+                return message["result"]
+            self.note(message.get("method"), message.get("params"))
