@@ -13,7 +13,7 @@ struct MainLoop : StandinTest {
                       SHOT = ", WaterStream", PAUSE = "PauseButton_64 480,352 544,352 544,416 480,416";
 
     /// Runs a session in the whole program, then closes the window in one more frame, which is still finished.
-    static Story runSession(std::vector<Deed> deeds) {
+    static Story runSession(std::vector<Action> actions) {
         Story story;
         window.onFrame = [&story] {
             std::string frame = linesStarting("TitleScreen", screen.drawn).empty() ? "field" : "title";
@@ -25,9 +25,9 @@ struct MainLoop : StandinTest {
                 story.emplace_back(frame, 0);
             story.back().second += 1;
         };
-        deeds.insert(deeds.end(), {mouse(SDL_QUIT), frames(1)});
-        for (const Deed& deed : deeds)
-            window.session.insert(window.session.end(), deed.begin(), deed.end());
+        actions.insert(actions.end(), {mouse(SDL_QUIT), frames(1)});
+        for (const Action& action : actions)
+            window.session.insert(window.session.end(), action.begin(), action.end());
         EXPECT_EQ(SDL_main(0, nullptr), 0);
         return story;
     }
@@ -59,11 +59,11 @@ TEST_F(MainLoop, anExceptionEndsItWithOneWordAndStatus0) {
 
 
 TEST_F(MainLoop, aKeyOrAnyButtonLeavesTheTitleAndBeginsTheMusicOfTheGame) {
-    std::vector<Deed> deeds{key(SDLK_a)};
+    std::vector<Action> actions{key(SDLK_a)};
     for (const Uint8 button : BUTTONS)
-        deeds.push_back(click(FIELD, button));
-    for (const Deed& deed : deeds)
-        EXPECT_EQ(runSession({frames(1), deed}), (Story{{"title", 1}, {"field" + MUSIC, 1}}));
+        actions.push_back(click(FIELD, button));
+    for (const Action& action : actions)
+        EXPECT_EQ(runSession({frames(1), action}), (Story{{"title", 1}, {"field" + MUSIC, 1}}));
 }
 
 

@@ -44,9 +44,9 @@ class Chromium(SocketVisitor):
         for domain in "Runtime", "Log", "Network", "Page":
             self.call(domain + ".enable")
 
-    def tabs(self, deed="", method="GET"):
-        """Does something with the browser's tabs; without a deed it tells which there are."""
-        request = urllib.request.Request(f"http://127.0.0.1:{self.port}/json{deed}", method=method)
+    def tabs(self, command="", method="GET"):
+        """Asks the browser something about its tabs; without a command it tells which there are."""
+        request = urllib.request.Request(f"http://127.0.0.1:{self.port}/json{command}", method=method)
         with urllib.request.urlopen(request) as answer:
             told = answer.read()
         return json.loads(told) if told.startswith((b"[", b"{")) else told

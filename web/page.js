@@ -29,13 +29,13 @@ const nevermind = () => {};
 const turn = () => new Promise(done => setTimeout(done));
 
 
-function offer(words, button, deed) {
+function offer(words, button, action) {
   message.textContent = words;
   message.setAttribute('role', 'alert');
   progress.hidden = true;
   start.disabled = false;
   start.textContent = button;
-  start.onclick = deed;
+  start.onclick = action;
   bar.hidden = true;
   front.hidden = false;
   start.focus();
@@ -295,10 +295,10 @@ async function fillScreen() {
 
 
 // A button does its work and gives the keyboard focus back to the canvas.
-function onPress(id, deed) {
+function onPress(id, action) {
   element(id).addEventListener('click', () => {
     canvas.focus({preventScroll: true});
-    deed(element(id));
+    action(element(id));
   });
 }
 

@@ -375,19 +375,19 @@ def away(page):
     page.is_loud()
 
 
-for what, deed in (
+for what, action in (
         ("a click", lambda page: page.click_at(*page.on_canvas(*AIM))),
         ("a key", lambda page: page.key("a", "KeyA")),
         ("a finger", lambda page: page.touch(*page.on_canvas(*AIM)))):
     @trouble(f"sound is taken away, and may come back with {what}", "it comes back")
-    def woken(page, deed=deed):
+    def woken(page, action=action):
         page.before(REFUSING)
         page.title()
         page.is_loud()
         page.value("refusing = true, audio.contexts[0].suspend()")
         time.sleep(0.5)
         require(page.value("audio.contexts[0].state") == "suspended", "It is not taken away.")
-        deed(page)
+        action(page)
         page.is_loud()
 
 
@@ -690,7 +690,7 @@ def policy(page):
     page.visit()
     page.offered("Play")
     page.value("""(() => {
-      const add = deed => document.head.append(Object.assign(document.createElement('script'), deed));
+      const add = content => document.head.append(Object.assign(document.createElement('script'), content));
       add({textContent: 'window.ran = "inline"'});
       add({src: URL.createObjectURL(new Blob(['window.ran = "blob"'], {type: 'text/javascript'}))});
       const button = document.body.appendChild(document.createElement('button'));

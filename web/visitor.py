@@ -17,10 +17,10 @@ def require(condition, complaint):
         sys.exit(str(complaint))
 
 
-def actions(x, y, deed):
+def actions(x, y, kind):
     """WebDriver's words for a mouse that comes to a point of the page and presses or lifts its left button there."""
     return [{"type": "pointer", "id": "mouse", "actions": [
-        {"type": "pointerMove", "x": x, "y": y}, {"type": deed, "button": 0}]}]
+        {"type": "pointerMove", "x": x, "y": y}, {"type": kind, "button": 0}]}]
 
 
 class Visitor(Window):

@@ -62,10 +62,10 @@ window.program = {steps: 0, frames: 0, fault: '', made: {}, deleted: {}, context
   }
 
   const of = WebGLRenderingContext.prototype;
-  const before = (name, deed) => {
+  const before = (name, action) => {
     const own = of[name];
     of[name] = function (...given) {
-      deed.apply(this, given);
+      action.apply(this, given);
       return own.apply(this, given);
     };
   };
@@ -153,7 +153,7 @@ window.display = {now: 0, waiting: [], timers: []};
     display.now = Math.max(display.now, until);
   };
 
-  // Shows so many seconds; tells the steps of the program between two frames of the display.
+  // Shows this many seconds at a rate in hertz; tells the steps of the program between two frames of the display.
   display.show = async (rate, seconds, late = 0) => {
     if (!begun) {
       display.now = realNow();
@@ -176,7 +176,7 @@ window.display = {now: 0, waiting: [], timers: []};
     }
     return steps;
   };
-  // Shows nothing for so many seconds.
+  // Shows nothing for this many seconds.
   display.stop = seconds => passTimers(display.now + 1000 * seconds);
 }
 """

@@ -10,7 +10,7 @@ TEST_F(GameTest, nothingThatAPlayerDoesBreaksTheGame) {
     int x = 0, y = 0;
     // Each action, and in how many steps it happens once on average.
     // clang-format off
-    const std::pair<unsigned, std::function<void()>> deeds[] = {
+    const std::pair<unsigned, std::function<void()>> actions[] = {
         {6000, [&] { game.restart(); }},          {60, [&] { game.setIsInTitleScreen(random() % 100 == 0); }},
         {50, [&] { game.activeTourelle(); }},     {50, [&] { game.poserTourelle(x, y); }},
         {2, [&] { game.desactiveTourelle(); }},   {100, [&] { game.setContinueToPlay(true); }},
@@ -22,9 +22,9 @@ TEST_F(GameTest, nothingThatAPlayerDoesBreaksTheGame) {
         x = static_cast<int>(random() % 1200) - 90;
         y = static_cast<int>(random() % 900) - 60;
         clocks.nanoseconds = random();
-        for (const auto& [rarity, deed] : deeds)
+        for (const auto& [rarity, action] : actions)
             if (random() % rarity == 0)
-                deed();
+                action();
         game.update(0.02);
         ASSERT_GE(pureWater(), 0);
     }

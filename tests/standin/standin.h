@@ -119,25 +119,25 @@ struct Place {
 
 /// Something that the player does, or frames that pass. A frame is an SDL_NOEVENT: polling stops at it, and it is
 /// removed when the frame is shown.
-using Deed = std::vector<SDL_Event>;
-inline Deed frames(int count) { return Deed(count); }
-inline Deed key(SDLKey symbol) {
+using Action = std::vector<SDL_Event>;
+inline Action frames(int count) { return Action(count); }
+inline Action key(SDLKey symbol) {
     SDL_Event event{};
     event.type = SDL_KEYDOWN;
     event.key.keysym.sym = symbol;
     return {event};
 }
 // SDL counts rows from the window's top. A motion event has its place in the same bytes as a button event.
-inline Deed mouse(SDL_EventType type, Place place = {}, Uint8 button = SDL_BUTTON_LEFT) {
+inline Action mouse(SDL_EventType type, Place place = {}, Uint8 button = SDL_BUTTON_LEFT) {
     SDL_Event event{};
     event.button = {Uint8(type), 0, button, 0, Uint16(place.x), Uint16(768 - place.y)};
     return {event};
 }
-inline Deed moveTo(Place place) { return mouse(SDL_MOUSEMOTION, place); }
-inline Deed press(Place place) { return mouse(SDL_MOUSEBUTTONDOWN, place); }
-inline Deed release(Uint8 button) { return mouse(SDL_MOUSEBUTTONUP, {}, button); }
+inline Action moveTo(Place place) { return mouse(SDL_MOUSEMOTION, place); }
+inline Action press(Place place) { return mouse(SDL_MOUSEBUTTONDOWN, place); }
+inline Action release(Uint8 button) { return mouse(SDL_MOUSEBUTTONUP, {}, button); }
 /// Presses a button and lets go of it.
-inline Deed click(Place place, Uint8 button = SDL_BUTTON_LEFT) {
+inline Action click(Place place, Uint8 button = SDL_BUTTON_LEFT) {
     return {mouse(SDL_MOUSEBUTTONDOWN, place, button)[0], release(button)[0]};
 }
 
