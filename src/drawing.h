@@ -3,10 +3,10 @@
 
 #include <SDL_opengl.h>
 
-// What every screen is made of: textured quads and digits, and the frame around them.
+// What every screen is made of: textured quads and digits, and what begins a frame.
 //
-// Everything here leaves texturing disabled and texture 0 bound, and the colour and the matrices as they were. Only
-// prepareFrame sets matrices and blending.
+// Outside an open batch everything here but prepareFrame leaves texturing disabled and texture 0 bound, and the colour
+// and the matrices as they were.
 
 /// A part of a texture, in texture coordinates from 0 to 1.
 struct TextureArea {

@@ -1,5 +1,4 @@
 #include "Game/Game.h"
-
 #include "Vecteur/Vecteur2D.h"
 #include "audio.h"
 #include "drawing.h"
@@ -48,6 +47,7 @@ void onKeyDown(SDLKey key, Loop& loop) {
         loop.pause = !loop.pause && !game.getIsInTitleScreen() && !loop.gameStart;
     } else if (key == SDLK_r) {
         // Fixed: on the title R starts the game and restarts it at once, so the title stays and the game's music plays.
+        // A restart keeps the music that plays.
         game.restart();
         loop.pause = false;
     } else if (key == SDLK_ESCAPE) {

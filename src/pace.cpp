@@ -1,7 +1,7 @@
 #include "pace.h"
 
-// The clock is read twice, in this order: the time that the first frame is measured from is read last, just before the
-// loop begins.
+// The second reading is the time that the first frame is measured from. The first reading is replaced before it is
+// used; the order of the two is kept all the same.
 Pace::Pace() : tempsActuel(SDL_GetTicks()), dernierTemps(SDL_GetTicks()) {}
 
 

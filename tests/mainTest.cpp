@@ -59,10 +59,8 @@ TEST_F(MainLoop, anExceptionEndsItWithOneWordAndStatus0) {
 
 
 TEST_F(MainLoop, aKeyOrAnyButtonLeavesTheTitleAndBeginsTheMusicOfTheGame) {
-    std::vector<Action> actions{key(SDLK_a)};
-    for (const Uint8 button : BUTTONS)
-        actions.push_back(click(FIELD, button));
-    for (const Action& action : actions)
+    for (const Action& action : {key(SDLK_a), click(FIELD), click(FIELD, SDL_BUTTON_MIDDLE),
+                                 click(FIELD, SDL_BUTTON_RIGHT), click(FIELD, SDL_BUTTON_WHEELUP)})
         EXPECT_EQ(runSession({frames(1), action}), (Story{{"title", 1}, {"field" + MUSIC, 1}}));
 }
 
@@ -76,6 +74,12 @@ TEST_F(MainLoop, spacePausesExceptWithTheKeyThatLeavesTheTitle) {
 TEST_F(MainLoop, rRestartsOnTheTitleUnpaused) {
     EXPECT_EQ(runSession({key(SDLK_a), frames(1), key(SDLK_SPACE), frames(1), key(SDLK_r), frames(1), key(SDLK_a)}),
               (Story{{"field" + MUSIC, 1}, {PAUSE, 1}, {"title", 1}, {"field" + MUSIC, 1}}));
+}
+
+
+TEST_F(MainLoop, aRestartKeepsTheMusic) {
+    runSession({key(SDLK_a), frames(1), key(SDLK_r), frames(1)});
+    EXPECT_EQ(linesStarting("play ", calls).size(), 1U);
 }
 
 
@@ -101,6 +105,12 @@ TEST_F(MainLoop, theShopsButtonSelectsATurretForOneClick) {
 
 TEST_F(MainLoop, theShopsButtonLetsGoOfASelectedTurret) {
     EXPECT_EQ(runSession({click(SHOP), click(SHOP), click(FIELD)}), (Story{{"field" + MUSIC, 1}}));
+}
+
+
+TEST_F(MainLoop, theShopSellsDuringAPause) {
+    EXPECT_EQ(runSession({key(SDLK_a), frames(1), key(SDLK_SPACE), click(SHOP), click(FIELD)}),
+              (Story{{"field" + MUSIC, 1}, {PAUSE + BUILT, 1}}));
 }
 
 
@@ -148,8 +158,10 @@ TEST_F(MainLoop, aPressWhileTheLeftButtonIsHeldDoesNotReachTheShop) {
 TEST_F(MainLoop, aClickBetweenWavesIsTakenAtAnyMoment) {
     // The only grunt has arrived after 2,512 steps. The next wave begins 15 seconds later, and its first grunt enters
     // one second after that.
-    runSession({key(SDLK_a), frames(2513), click(FIELD), frames(750 + 50)});
-    EXPECT_EQ(linesStarting("VorelDefense_grunts", screen.drawn).size(), 1U);
+    for (const Action& before : {key(SDLK_a), press(FIELD)}) { // also while the button is held
+        runSession({before, frames(2513), click(FIELD), frames(750 + 50)});
+        EXPECT_EQ(linesStarting("VorelDefense_grunts", screen.drawn).size(), 1U);
+    }
 }
 
 

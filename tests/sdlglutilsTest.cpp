@@ -95,7 +95,9 @@ TEST_F(Pictures, initFullScreenSetsTheFirstModeOfSeveral) {
 TEST_F(Pictures, initFullScreenChangesNothingWhereNoModesAreListed) {
     for (const long answer : {0L, -1L}) { // no modes, or any mode will do
         window.modes = reinterpret_cast<SDL_Rect**>(answer);
-        EXPECT_EQ(initFullScreen(nullptr, nullptr), 0);
+        unsigned int width = 7, height = 7;
+        EXPECT_EQ(initFullScreen(&width, &height), 0);
+        EXPECT_EQ(std::pair(width, height), std::pair(7U, 7U));
     }
     EXPECT_EQ(calls, Lines{});
 }

@@ -70,7 +70,8 @@ void Beam::draw(const double& /*dt*/) const {
     constexpr double tx = Game::largeur_case;
     constexpr double ty = Game::hauteur_case;
 
-    // The picture points to the right; turn it to the direction of flight.
+    // The picture points to the right; turn it to the direction of flight. Fixed: the position is its lower-left
+    // corner.
     glPushMatrix();
     const double angle = dir.getAngle();
     glTranslated(x + width / 2, y + length / 2, 0);

@@ -27,7 +27,7 @@ constexpr double SECONDS_PER_WALK_FRAME = 0.1666;
 constexpr double EIGHTH_TURN = 45.0;
 constexpr double THREE_EIGHTHS_TURN = 135.0;
 
-// How many of a hundred deaths are drawn wrong, on purpose.
+// Fixed: this many of a hundred deaths are drawn wrong. The dice are thrown again at every further hit.
 constexpr int GLITCHES_PER_HUNDRED = 19;
 
 } // namespace
@@ -81,7 +81,8 @@ void Ennemi::setPolution(double newPolution) { polution = newPolution; }
 
 
 void Ennemi::update(const double& dt, const Game& game) {
-    // Nothing here allocates: grunts that are gone walk on unseen, and late in a game there are thousands of them.
+    // Fixed: grunts that are gone walk on unseen. Late in a game there are thousands of them, so nothing here
+    // allocates.
     const Vecteur2D& pos = getPosition();
     const Vecteur2D& goal = game.getTower().getPosition();
     const double dx = goal[0] - pos[0];

@@ -14,8 +14,7 @@
 class Ennemi : public Entity {
 public:
     /// At `vect`, with `health` in hit points, `speed` in pixels per second, `polution` in units of water, the
-    /// collision radius `w` in pixels, and a name to recognise it by in a debugger. All
-    /// grunts show the same picture.
+    /// collision radius `w` in pixels, and a name to recognise it by in a debugger. All grunts show the same picture.
     Ennemi(const Vecteur2D& vect, const double& health, const double& speed, const double& polution, const double& w,
            const double& h, const std::string& name);
     Ennemi* copy() const override;

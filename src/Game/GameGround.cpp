@@ -83,7 +83,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     for (const auto& rule : RULES)
         if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
-    // Fixed: also between patches on opposite sides, or on three sides.
+    // Fixed: also between patches on opposite sides, on three sides, or on two whose common corner is plain.
     return PLAIN_TILE;
 }
 

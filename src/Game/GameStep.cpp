@@ -82,7 +82,7 @@ void Game::releaseEnnemis() {
 
 
 void Game::resolveCollisions() {
-    // In this order encounters are answered below.
+    // Encounters are answered in this order.
     const auto add = [this](Entity* entity) {
         if (!entity->canCollide())
             return;

@@ -1,7 +1,6 @@
 #ifndef VECTEUR_H
 #define VECTEUR_H
 
-
 #include <cstddef>
 #include <initializer_list>
 #include <ostream>

@@ -26,7 +26,7 @@ public:
     /// released grunts.
     void spawnEnnemi(const Vecteur2D& pos);
 
-    /// The size of the roster, released or not: less the released, those still to come.
+    /// The size of the roster: grunts that have been released count too.
     size_t getEnnmisNumber() const;
     /// The grunts released so far, gone ones included.
     std::vector<Ennemi>& getEnnemisInGame();

@@ -128,6 +128,14 @@ TEST_F(GameTest, coinsSoundOnlyWhenWaterDrains) {
 }
 
 
+TEST_F(GameTest, thePayOutDropsTheFractionOfACoin) {
+    runSteps(1);
+    spill(0.51);
+    runSteps(2511 + 300);
+    EXPECT_EQ(money(), 3789) << "2,000 and 20 for each of the 89.49 units that are left";
+}
+
+
 TEST_F(GameTest, aCliqueTourelleOnTheButtonWithItsUpperEdge) {
     // clang-format off
     const std::tuple<int, int, bool> cases[] = {

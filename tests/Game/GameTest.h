@@ -8,9 +8,9 @@
 #include "Vecteur/Vecteur2D.h"
 #include "audio.h"
 #include "standin/standin.h"
-// IWYU pragma: end_exports
 
 #include <cmath>
+// IWYU pragma: end_exports
 
 /// A turret from the shop, with another price and damage for its shots if wanted.
 inline Weapon turretAt(double x, double y, double waterConsume = 1, double damage = 50) {

@@ -1,7 +1,6 @@
 #include "Game/GameTest.h"
 #include "standin/standin.h"
 
-#include <cmath>
 #include <fstream>
 
 constexpr int STEPS = 7500, STRETCH = 500, STEPS_TO_NEXT_FRAME = 7;

@@ -91,7 +91,7 @@ void glVertex2d(GLdouble x, GLdouble y) {
 }
 void glVertex3i(GLint x, GLint y, GLint z) {
     glVertex2d(x, y);
-    corners[emitted - 1].depth = z;
+    corners[emitted - 1].depth = z * screen.depthScale;
 }
 void glEnd() {
     for (size_t first = 0; shape == GL_LINES && first < emitted; first += 2)
@@ -112,7 +112,10 @@ void glLoadIdentity() {
     call("identity");
 }
 void glTranslated(GLdouble x, GLdouble y, GLdouble) { screen.matrices.back().second = placeOf(x, y); }
-void glScaled(GLdouble x, GLdouble y, GLdouble) { screen.matrices.back().first *= x == y ? x : NAN; }
+void glScaled(GLdouble x, GLdouble y, GLdouble z) {
+    screen.matrices.back().first *= x == y ? x : NAN;
+    screen.depthScale = z;
+}
 void glRotated(GLdouble a, GLdouble, GLdouble, GLdouble z) {
     screen.matrices.back().first *= std::polar(z, a * M_PI / 180);
 }

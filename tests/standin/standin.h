@@ -84,6 +84,8 @@ inline struct Screen {
     std::vector<std::pair<GLbitfield, Attributes>> pushed;
     /// A matrix puts a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
     std::vector<std::pair<Point, Point>> matrices{{1, 0}};
+    /// How the last scaling enlarged depths. Only the axes have any.
+    double depthScale = 1;
 
     bool has(GLenum ability) const { return state.enabled.count(ability) != 0; }
     /// How a line would be drawn, apart from its colour: "width 2 smooth blended by alpha".
