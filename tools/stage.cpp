@@ -3,8 +3,8 @@
 //     vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]      in the folder that holds Assets/
 //
 // The scene runs for that many seconds, or until its window is closed. PICTURE.bmp gets its last frame. GROUND is a
-// number: each gives a different ground, always the same one. Grunts enter at the same places every time. At the end
-// the work per frame is printed. N stands for a number in these scenes:
+// number: each gives a different ground, always the same one. Except in a browser, grunts enter at the same places
+// every time. At the end the work per frame is printed. N stands for a number in these scenes:
 //
 //     title       the title screen
 //     busy        ten turrets fire at the two dozen grunts on the field and at the three dozen that follow
@@ -219,6 +219,14 @@ bool isClosed() {
 }
 
 
+void keepPicture(const std::string& file) {
+    if (takeScreenshot(file.c_str()) == 0)
+        return;
+    std::fprintf(stderr, "%s can't be written.\n", file.c_str());
+    std::exit(1);
+}
+
+
 /// Runs a scene. Returns the milliseconds of work that each frame took.
 std::vector<double> run(Game& game, Player& player, int steps, const std::string& picture) {
     using Clock = std::chrono::steady_clock;
@@ -229,9 +237,9 @@ std::vector<double> run(Game& game, Player& player, int steps, const std::string
         const auto start = Clock::now();
         showStep(game, player, step);
         if (isFilm && step % STEPS_BETWEEN_PICTURES == 0)
-            takeScreenshot((picture + "/" + std::to_string(step / STEPS_BETWEEN_PICTURES) + ".bmp").c_str());
+            keepPicture(picture + "/" + std::to_string(step / STEPS_BETWEEN_PICTURES) + ".bmp");
         else if (!isFilm && !picture.empty() && step == steps - 1)
-            takeScreenshot(picture.c_str());
+            keepPicture(picture);
         SDL_GL_SwapBuffers();
         work.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
         if (!isFilm)
@@ -262,7 +270,9 @@ int main(int argc, char** argv) {
 
     Game game(WIDTH, HEIGHT);
     Player player;
-    if (argc < 2 || !setUp(game, player, argv[1])) {
+    const bool isSetUp = argc > 1 && setUp(game, player, argv[1]);
+    const bool filmsNowhere = !player.way.empty() && argc < 4;
+    if (!isSetUp || filmsNowhere) {
         std::fputs("vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]; see tools/stage.cpp for the scenes\n", stderr);
         return 1;
     }
