@@ -19,6 +19,13 @@
     say('This browser is too old for the game. Any current one will do.');
     return;
   }
+  try {
+    // The smallest program that there is. Some browsers know WebAssembly, but not how a page allows it.
+    new WebAssembly.Module(new Uint8Array([0, 97, 115, 109, 1, 0, 0, 0]));
+  } catch (error) {
+    say('This browser offers no WebAssembly to the page, and the game needs that. Any current browser will do.');
+    return;
+  }
   start.hidden = false;
   progress.hidden = false;
   script.type = 'module';

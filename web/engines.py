@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Plays the start of a game in the browsers that are no Chromium.
+"""Plays the start of a game in browsers other than Chromium.
 
     engines.py PAGE DIRECTORY    PAGE is a folder to serve
 

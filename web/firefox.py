@@ -35,10 +35,10 @@ class Firefox(SocketVisitor):
         with open(os.path.join(self.profile.name, "user.js"), "w", encoding="utf-8") as preferences:
             preferences.write(PREFERENCES)
         self.complaints = []
+        self.loudspeaker = start_loudspeaker(self.profile.name)
         super().__init__("/usr/bin/firefox-esr", quiet=True, HOME=self.profile.name,
                          PULSE_SERVER=f"unix:{self.profile.name}/loudspeaker", arguments=[
                              "--kiosk", "--remote-debugging-port", "0", "--profile", self.profile.name, "about:blank"])
-        self.loudspeaker = start_loudspeaker(self.profile.name)
         try:
             self.connect()
         except BaseException:

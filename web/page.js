@@ -25,8 +25,8 @@ const address = path => path + build;
 // A browser may refuse a request; then everything stays as it is.
 const nevermind = () => {};
 
-// Gives the page time for its other work.
-const turn = () => new Promise(done => setTimeout(done));
+// Without milliseconds it gives the page time for its other work.
+const wait = milliseconds => new Promise(done => setTimeout(done, milliseconds));
 
 
 function offer(words, button, action) {
@@ -56,7 +56,15 @@ function breakOff(words) {
 }
 
 
+function graphicsLost() {
+  breakOff('The browser took the graphics away, perhaps for another program.');
+}
+
+
 function fail(error) {
+  // Whatever fails then fails because of that.
+  if (gl?.isContextLost())
+    graphicsLost();
   breakOff('The game stopped, and that is a fault of ours. ' +
     `Version ${element('version').textContent} reports: ${error?.message || error}`);
 }
@@ -119,18 +127,21 @@ async function load(file) {
 
 
 // Players see the front picture while the rest loads, so the rest waits until the picture is on the screen, if the
-// browser reports that. In a hidden tab it never is, so the wait has a limit.
+// browser reports that. Both waits have a limit in milliseconds: a request may hang, and nothing is shown in a hidden
+// tab.
 async function frontIsSeen() {
-  const LONGEST = 1000; // milliseconds
+  const LONGEST_ON_ITS_WAY = 10000;
+  const LONGEST_UNTIL_SEEN = 1000;
   const type = 'largest-contentful-paint';
   const shown = front.querySelector('img');
-  await shown.decode().catch(nevermind);
-  if (PerformanceObserver.supportedEntryTypes.includes(type))
-    await new Promise(done => {
-      const seen = list => list.getEntries().some(({element}) => element === shown) && done();
-      new PerformanceObserver(seen).observe({type, buffered: true});
-      setTimeout(done, LONGEST);
-    });
+  await Promise.race([shown.decode().catch(nevermind), wait(LONGEST_ON_ITS_WAY)]);
+  if (!PerformanceObserver.supportedEntryTypes.includes(type))
+    return;
+  const seen = new Promise(done => {
+    const look = list => list.getEntries().some(({element}) => element === shown) && done();
+    new PerformanceObserver(look).observe({type, buffered: true});
+  });
+  await Promise.race([seen, wait(LONGEST_UNTIL_SEEN)]);
 }
 
 
@@ -151,13 +162,13 @@ async function loadAll() {
 }
 
 
-// One after another, in the order in which the game is likely to need them. A sound that does not arrive is never
-// heard.
+// One after another. A sound that does not arrive is not heard, and is asked for again with the next game.
 async function loadSounds() {
   for (const file of files.sounds.splice(0))
     try {
       await sound.add(file, await (await fetchBytes(file)).arrayBuffer());
     } catch (error) {
+      files.sounds.push(file);
       console.warn(`${file} will not be heard: ${error.message}`);
     }
 }
@@ -171,12 +182,12 @@ function openCanvas() {
   gl = canvas.getContext('webgl', {...options, failIfMajorPerformanceCaveat: true});
   sharpness = gl ? 2 : 1;
   gl = gl || canvas.getContext('webgl', options);
-  canvas.addEventListener('webglcontextlost', () =>
-    breakOff('The browser took the graphics away, perhaps for another program.'));
+  canvas.addEventListener('webglcontextlost', graphicsLost);
 }
 
 
-// WebGL returns the pixels as they are in the file; a 2-D canvas would lose the colours of transparent ones. Goes one
+// WebGL returns the pixels as they are in the file, in every browser; a 2-D canvas would lose the colours of transparent
+// ones. Goes one
 // picture at a time, because the browser may have to decode it again.
 async function readPictures() {
   const texture = gl.createTexture();
@@ -192,7 +203,7 @@ async function readPictures() {
     gl.readPixels(0, 0, width, height, gl.RGBA, gl.UNSIGNED_BYTE, pixels);
     pictures[place] = {width, height, pixels};
     delete images[place];
-    await turn();
+    await wait();
   }
   gl.bindFramebuffer(gl.FRAMEBUFFER, null);
   gl.deleteFramebuffer(frame);
@@ -204,10 +215,10 @@ async function play() {
   state = 'starting';
   start.disabled = true;
   start.textContent = 'Starting…';
-  sound.open();
-  sound.wake();
   try {
-    await turn();
+    sound.open();
+    sound.wake();
+    await wait();
     if (!gl)
       openCanvas();
     if (!gl) {
@@ -332,7 +343,4 @@ for (const press of ['pointerup', 'click', 'keydown'])
 window.visualViewport?.addEventListener('resize', () =>
   document.documentElement.classList.toggle('enlarged', visualViewport.scale > 1));
 
-if (typeof WebAssembly !== 'object')
-  breakOff('This browser offers no WebAssembly, which the game needs. Any current one will do.');
-else
-  loadAll();
+loadAll().catch(fail);

@@ -1,4 +1,4 @@
-"""The game's page in Chromium, with one who plays it and one who disturbs."""
+"""The game's page in Chromium, and how to play it and to disturb it."""
 import contextlib
 import time
 import wave
@@ -119,7 +119,7 @@ class Page(Chromium):
         self.wait_for("a shot", lambda: self.shots() > begin)
 
     def is_still(self):
-        """No shot is fired any more; those that were on their way are."""
+        """No shot is fired any more, once the last ones have been heard."""
         time.sleep(0.3)
         begin = self.shots()
         time.sleep(1.5)

@@ -54,19 +54,20 @@ export function open() {
     navigator.audioSession.type = 'ambient';
   try {
     context = new AudioContext();
-  } catch {
-    return;
+    speaker = context.createGain();
+    speaker.gain.value = off ? 0 : 1;
+    speaker.connect(context.destination);
+    music = new Audio();
+    music.loop = true;
+    music.load();
+    musicNode = context.createGain();
+    musicNode.connect(speaker);
+    context.createMediaElementSource(music).connect(musicNode);
+    context.onstatechange = () => awake && wake();
+  } catch (error) {
+    context = undefined;
+    console.warn(`Nothing can be heard: ${error.message}`);
   }
-  context.onstatechange = () => awake && wake();
-  speaker = context.createGain();
-  speaker.gain.value = off ? 0 : 1;
-  speaker.connect(context.destination);
-  music = new Audio();
-  music.loop = true;
-  music.load();
-  musicNode = context.createGain();
-  musicNode.connect(speaker);
-  context.createMediaElementSource(music).connect(musicNode);
 }
 
 
@@ -87,6 +88,9 @@ export function wake() {
     return;
   if (context.state === 'suspended')
     ask(context.resume());
+  // The line may have broken while the music was on its way.
+  if (playing && music.error?.code === MediaError.MEDIA_ERR_NETWORK)
+    music.load();
   if (playing && music.paused && !music.error)
     ask(music.play());
 }
@@ -103,8 +107,7 @@ export function rest() {
 
 // Works even before the browser allows any sound.
 export async function add(place, bytes) {
-  if (context)
-    sounds.set(place, await new OfflineAudioContext(2, 1, 44100).decodeAudioData(bytes));
+  sounds.set(place, await new OfflineAudioContext(2, 1, 44100).decodeAudioData(bytes));
 }
 
 

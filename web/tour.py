@@ -7,29 +7,24 @@ Leaves pictures of both in the directory.
 """
 import os
 import sys
-import wave
 
 sys.path[:0] = ["tools", "web"]
 from chromium import BAR, Chromium
+from player import SHOT_SECONDS
 from server import Server
 from session import play, play_in
 from visitor import require
+from watch import SOUNDS
 from window import HEIGHT, WIDTH, differs, rgb, water
 
-# Written into every page before its own scripts: what is played, and how far the music comes.
-LISTEN = """
-window.heard = {sounds: [], music: {}, state: ''};
-const beginSound = AudioBufferSourceNode.prototype.start;
-AudioBufferSourceNode.prototype.start = function (...times) {
-  heard.sounds.push(this.buffer.duration);
-  heard.state = this.context.state;
-  return beginSound.apply(this, times);
-};
+# Written into every page before its own scripts: how far the music comes.
+MUSIC = """
+window.music = {};
 const playMedia = HTMLMediaElement.prototype.play;
 HTMLMediaElement.prototype.play = function () {
   this.ontimeupdate = () => {
     const file = new URL(this.src).pathname.split('/').pop();
-    heard.music[file] = Math.max(this.currentTime, heard.music[file] || 0);
+    music[file] = Math.max(this.currentTime, music[file] || 0);
   };
   return playMedia.apply(this);
 };
@@ -65,13 +60,11 @@ def alike(directory):
 
 def heard(browser):
     """The shot was played, and both pieces of music went on."""
-    with wave.open("Assets/sfx/WaterStream.wav") as shot:
-        seconds = shot.getnframes() / shot.getframerate()
-    what = browser.value("heard")
-    print(f"heard: {len(what['sounds'])} sounds, audio {what['state']}, music {what['music']}", flush=True)
-    require(any(abs(sound - seconds) < 0.001 for sound in what["sounds"]), "No shot was heard.")
-    require(what["state"] == "running", "Sounds are played, but the audio does not run.")
-    require(len(what["music"]) == 2 and min(what["music"].values()) > 0.5, "The music does not go on.")
+    sounds, music = browser.value("[audio.begun, music]")
+    print(f"heard: {len(sounds)} sounds, music {music}", flush=True)
+    require(any(abs(sound["seconds"] - SHOT_SECONDS) < 0.001 for sound in sounds), "No shot was heard.")
+    require(all(sound["state"] == "running" for sound in sounds), "Sounds are played, but the audio does not run.")
+    require(len(music) == 2 and min(music.values()) > 0.5, "The music does not go on.")
 
 
 def fits(browser, width, height, buttons):
@@ -147,12 +140,12 @@ def main(page, program, directory):
     play(program, os.path.join(directory, "desktop"))
 
     with Server(page) as server, Chromium() as browser:
-        browser.call("Page.addScriptToEvaluateOnNewDocument", source=LISTEN)
+        browser.call("Page.addScriptToEvaluateOnNewDocument", source=SOUNDS + MUSIC)
         browser.open(server.address)
         sizes(browser, directory, "front", ["start"])
         set_size(browser, WIDTH + BAR, HEIGHT, 1, False)
         browser.start()
-        browser.wait_for("the music of the title", lambda: browser.value("Object.values(heard.music).some(time => time > 0.5)"))
+        browser.wait_for("the music of the title", lambda: browser.value("Object.values(music).some(time => time > 0.5)"))
         play_in(browser, os.path.join(directory, "browser"))
         heard(browser)
         alike(directory)

@@ -188,6 +188,8 @@ for what, script, words in (
         ("an old browser without Array.prototype.at", "delete Array.prototype.at", "too old"),
         ("an old browser without modules", "delete HTMLScriptElement.prototype.noModule", "too old"),
         ("a browser without WebAssembly", "delete window.WebAssembly", "no WebAssembly"),
+        ("a browser that forbids WebAssembly", "WebAssembly.Module = WebAssembly.compile = () => { throw new Error(); }",
+         "no WebAssembly"),
         ("a browser without WebGL", "HTMLCanvasElement.prototype.getContext = () => null", "no WebGL")):
     @trouble(what, f"says: {words}")
     def lacking(page, script=script, words=words):
@@ -200,8 +202,6 @@ for what, script, words in (
         require("fault of ours" not in page.text() and "did not load" not in page.text(), page.text())
 
 
-# Hands.
-
 @trouble("a browser can't open sound", "the game is played in silence")
 def no_sound(page):
     page.before("window.AudioContext = class { constructor() { throw new Error('no sound'); } };")
@@ -212,6 +212,8 @@ def no_sound(page):
     page.click("start")
     page.goes_on()
 
+
+# Hands.
 
 @trouble("a thumb rests beside the canvas", "another finger plays")
 def thumb(page):
@@ -318,6 +320,20 @@ def pinch(page):
     page.fingers("End", {})
     time.sleep(0.3)
     require(page.value("visualViewport.scale") == 1, f"Enlarged by {page.value('visualViewport.scale')}")
+
+
+@trouble("two fingers close on the canvas of a page that is enlarged", "it becomes smaller again")
+def pinch_out(page):
+    page.resize(360, 640)
+    page.title()
+    page.call("Emulation.setPageScaleFactor", pageScaleFactor=2)
+    page.wait_for("a page that is enlarged", lambda: page.value("visualViewport.scale") == 2)
+    page.fingers("Start", {1: (20, 320), 2: (340, 320)})
+    for closed in range(10, 150, 10):
+        page.fingers("Move", {1: (20 + closed, 320), 2: (340 - closed, 320)})
+        time.sleep(0.02)
+    page.fingers("End", {})
+    page.wait_for("its usual size", lambda: page.value("visualViewport.scale") == 1)
 
 
 @trouble("Restart is pressed by a slip", "the game asks, and can go on")
@@ -535,6 +551,15 @@ def picture_first(page):
     page.offered("Play")
 
 
+@trouble("the picture of the front never arrives", "the game can be played all the same")
+def no_front_picture(page):
+    page.hold("*/front-*")
+    page.visit()
+    page.offered("Play")
+    require(page.held, "It was not asked for.")
+    page.play()
+
+
 @trouble("scripts and style are on their way for long", "the front is painted all the same")
 def paint_first(page):
     page.hold("*.js*", "*.css*")
@@ -743,7 +768,7 @@ def pictures(page):
 
 
 def main(folder, word=""):
-    failed = 0
+    met = failed = 0
     with tempfile.TemporaryDirectory() as served:
         # The page, and beside it the pictures that its own are made of.
         subprocess.run(["cp", "-R", os.path.join(folder, "."), served], check=True)
@@ -752,6 +777,7 @@ def main(folder, word=""):
             for done, seen, row in TROUBLES:
                 if word not in row.__name__ + done + seen:
                     continue
+                met += 1
                 begin = time.monotonic()
                 page.renew()
                 try:
@@ -761,6 +787,8 @@ def main(folder, word=""):
                     failed += 1
                     how = f"WRONG: {reason} {page.message()}"
                 print(f"{done} -> {seen}: {how} ({time.monotonic() - begin:.1f} s)", flush=True)
+    if met == 0:
+        sys.exit(f"No trouble has '{word}' in its name.")
     if failed:
         sys.exit(f"{failed} troubles are not met.")
 

@@ -109,7 +109,7 @@ window.program = {steps: 0, frames: 0, fault: '', made: {}, deleted: {}, context
 
 # What is begun to be heard, and whether the sound is awake then. `audio` has what the page hears with.
 SOUNDS = """
-window.audio = {begun: [], contexts: [], players: []};
+window.audio = {begun: [], contexts: []};
 {
   const begin = AudioBufferSourceNode.prototype.start;
   AudioBufferSourceNode.prototype.start = function (...times) {

@@ -1,6 +1,6 @@
 // Stands in for SDL_mixer: the browser plays sounds and music. The pointers that the game holds are numbers of sounds
-// and are never followed. Only what the game calls is
-// here, with the arguments it uses: no volume is asked for, and none is set for all channels at once.
+// and are never followed. Only what the game calls is here, with the arguments it uses: no volume is asked for, and
+// none is set for all channels at once.
 
 #include "port.h"
 

@@ -230,7 +230,7 @@ mergeInto(LibraryManager.library, {
     // The character on a key; where a layout has no Latin letters, the one that other keyboards have there.
     character: function (event) {
       var place = /^Key([A-Z])$/.exec(event.code);
-      if (/^[!-~]$/.test(event.key))
+      if (/^[ -~]$/.test(event.key))
         return event.key.toLowerCase().charCodeAt(0);
       if (event.code === 'Space')
         return 32;
