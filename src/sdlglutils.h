@@ -4,8 +4,7 @@
 #include <SDL.h>
 #include <SDL_opengl.h>
 
-// Helpers between SDL, its image library and OpenGL. Fixed: the game calls loadTexture only; other code may call them
-// all.
+// Helpers between SDL, its image library and OpenGL, a part of the toolkit: the game loads its textures with them.
 
 /// Loads an image file into a new 2-D texture, filtered linearly and with mipmaps if wanted, and leaves it
 /// bound. Texture coordinate (0, 0) is the image's lower-left corner. Nobody releases the texture. Returns 0,
@@ -27,7 +26,7 @@ void drawAxis(double scale);
 int initFullScreen(unsigned int* width, unsigned int* height);
 
 /// Writes an image as the source text of a three-colour XPM: dark pixels become X, light ones a dot, pixels less than
-/// half opaque a space. Each row is padded to a multiple of 8. Fixed: the array is named after the path up to its first
+/// half opaque a space. Each row is padded to a multiple of 8. Quirk: the array is named after the path up to its first
 /// dot, folders included. Returns 0, or -1 if the image can't be loaded or the text can't be written.
 int XPMFromImage(const char* imagefile, const char* XPMfile);
 

@@ -65,9 +65,9 @@ public:
 
     /// Appends wave 0.
     void init();
-    /// A fresh game on the title screen. Fixed: four things stay: the ground, the count from which each `Wave` takes
+    /// A fresh game on the title screen. Quirk: four things stay: the ground, the count from which each `Wave` takes
     /// its number, the steps counted towards the next coin sound, and the seconds before the next wave, until a wave
-    /// ends.
+    /// ends. Quirk: isContinueToPlay is false afterwards, and true in a new game.
     void restart();
 
     // What state it is in.
@@ -84,7 +84,6 @@ public:
     bool isContinueToPlay() const;
     void setContinueToPlay(bool continuePlaying);
     const Tower& getTower() const;
-    // Fixed: the game has no caller of these four, nor of addWeapon with a pointer; other code may.
     int getLargeur() const;
     int getHauteur() const;
     int getLargeurCase() const;
@@ -145,6 +144,9 @@ private:
     static constexpr double MONEY_X = 964.0;
     static constexpr double MONEY_Y = 698.0;
 
+    /// How finely the discs of the turrets' ranges are drawn.
+    static constexpr unsigned int DISC_SEGMENTS = 40;
+
     void drawGauge() const;
     void drawMoney(int amount) const;
     void drawWavePanel() const;
@@ -189,8 +191,9 @@ private:
     double timeLoos;
     bool continueToPlay;
 
-    // The objects that can collide, their discs in the same order, and the pairs found. Empty except while collisions
-    // are resolved, so no pointer outlives its object. As members they keep their memory from step to step.
+    // The objects that can collide, their discs in the same order, and the pairs found. Every step begins them anew;
+    // until then their pointers may be stale, and nobody follows them. As members they keep their memory from step to
+    // step.
     std::vector<Entity*> entitys;
     std::vector<Entity::Disc> discs;
     std::vector<Duo<Entity*, Entity*>> encounters;

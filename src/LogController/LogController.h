@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-/// A logger: writes time-stamped lines with a fixed prefix to one stream.
+/// A logger of the toolkit: writes time-stamped lines with a fixed prefix to one stream.
 class LogController {
 public:
     /// Logs to `outStreamPara`, which must outlive the logger; an empty prefix is left out of the lines.
@@ -43,11 +43,11 @@ public:
     }
 
 private:
-    /// The time of day as "HH:MM:SS". Fixed: always one hour ahead of UTC.
+    /// The time of day as "HH:MM:SS". Quirk: always one hour ahead of UTC.
     static std::string timeStamp();
 
     std::string additionalString;
-    // Fixed: constant, so that nothing but log() writes to it.
+    // Quirk: constant, although log() writes to it.
     const std::ostream& outStream;
 };
 

@@ -4,8 +4,7 @@
 #include "LogController/LogController.h"
 #include "LogController/LogControllerError.h"
 
-// The console's loggers, one of each for the whole program. Fixed: the game uses only the first, in
-// Exception::consolErr; other code may use them all.
+// The toolkit's loggers for the console, one of each for the whole program. Exception::consolErr uses the first.
 
 /// Errors, on standard error.
 extern const LogControllerError logErrorConsol;

@@ -29,11 +29,11 @@ public:
     Vecteur2D& operator=(const Vecteur2D& vect) = default;
     ~Vecteur2D() override = default;
 
-    /// Becomes the vector of length `norme` at `angle` radians from the x axis towards the y axis. Fixed: this takes
-    /// radians, everything else degrees. The game doesn't call it; other code may.
+    /// Becomes the vector of length `norme` at `angle` radians from the x axis towards the y axis. Quirk: this takes
+    /// radians, everything else degrees.
     void setFormPolar(const double& norme, const double& angle);
 
-    /// The heading in degrees from the x axis towards the y axis, from -90 up to 270. Fixed: -90 for a zero vector.
+    /// The heading in degrees from the x axis towards the y axis, from -90 up to 270. Quirk: -90 for a zero vector.
     double getAngle() const;
     /// The same for the vector (`x`, `y`).
     static double angleOf(double x, double y);

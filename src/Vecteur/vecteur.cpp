@@ -187,6 +187,7 @@ void Vecteur::refuseSize(int line, const char* file, const char* function) {
 }
 
 
+// Quirk: the error of a + b names operator+=, and that of a - b names operator-=.
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2) { return vect1 += vect2; }
 
 

@@ -1,16 +1,18 @@
 #ifndef VECTEUR_H
 #define VECTEUR_H
 
+// Who calls a vector can catch what it raises.
+#include "exception/exception.h" // IWYU pragma: export
+
 #include <cstddef>
 #include <initializer_list>
 #include <ostream>
 #include <string>
 #include <vector>
 
-/// A vector of doubles of any dimension, zero included. Operations that build a new vector return a plain Vecteur,
-/// whatever their operands are. An operation that needs equal dimensions, and does not get them, raises an Exception of
-/// the kind VECTEUR_SIZE_INCORRECT and changes nothing. Fixed: most of it has no caller in the game; other code may
-/// call it.
+/// A vector of doubles of any dimension, zero included: a part of the toolkit, of which the game uses what it needs.
+/// Operations that build a new vector return a plain Vecteur, whatever their operands are. An operation that needs
+/// equal dimensions, and does not get them, raises an Exception of the kind VECTEUR_SIZE_INCORRECT and changes nothing.
 class Vecteur {
 public:
     /// A vector without components.
@@ -85,7 +87,7 @@ private:
     std::vector<double> coords;
 };
 
-// Fixed: the results are constant, so that nobody assigns to a sum by mistake.
+// Quirk: the results are constant. So nobody assigns to a sum by mistake.
 
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2);
 const Vecteur operator-(Vecteur vect1, const Vecteur& vect2);
@@ -103,7 +105,7 @@ const Vecteur operator/(const Vecteur& vect, const double& scal);
 
 /// The dot product.
 const double operator*(const Vecteur& vect1, const Vecteur& vect2);
-/// Fixed: for vectors of different dimensions it raises VECTEUR_SIZE_INCORRECT instead of returning false.
+/// Quirk: for vectors of different dimensions it raises VECTEUR_SIZE_INCORRECT instead of returning false.
 const bool operator==(const Vecteur& vect1, const Vecteur& vect2);
 const bool operator!=(const Vecteur& vect1, const Vecteur& vect2);
 

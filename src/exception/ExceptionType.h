@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// One kind of error: a number that identifies it, a short name, and a French description for whoever reads the log.
-/// Every source file has its own copies of the kinds, so compare numbers, never addresses.
+/// One kind of error of the toolkit: a number that identifies it, a short name, and a French description for whoever
+/// reads the log. Every source file has its own copies of the kinds, so compare numbers, never addresses.
 class ExceptionType {
 public:
     ExceptionType(unsigned int exceptionNumberPara, std::string descriptionPara, std::string namePara);

@@ -5,8 +5,8 @@
 
 #include <string>
 
-/// What the game throws, by value: where it was raised, which kind of error it is, and an additional text
-/// if there is one. Fixed: the game reads none of it; other code may.
+/// What the toolkit throws, by value: where it was raised, which kind of error it is, and an additional text if there
+/// is one.
 class Exception {
 public:
     /// Raised at line `linePara` of the file `fileNamePara`, in the function `functionNamePara`.

@@ -3,8 +3,8 @@
 
 #include "exception/ExceptionType.h"
 
-// The kinds of error. Fixed: only the first two are raised, by the vectors, and the texts keep their spaces and
-// misspellings. Numbers are never reused, so that old logs stay readable.
+// The toolkit's kinds of error, of which its vectors raise the first two. Numbers are never reused, so that old logs
+// stay readable. Quirk: the texts keep their spaces and misspellings.
 
 const ExceptionType VECTEUR_SIZE_INCORRECT(1, " les vecteurs sont de la mauvaise taille pour cette action ",
                                            "vecteurSizeIncorect");

@@ -1,8 +1,7 @@
 #ifndef HETEROGENEOUS_CONTAINER_H
 #define HETEROGENEOUS_CONTAINER_H
 
-/// Two values of any types, held by value. The collision pass keeps two touching entities in it; pointers in it own
-/// nothing.
+/// Two values of any types, held by value: a part of the toolkit. Pointers in it own nothing.
 template <typename Type1, typename Type2>
 class Duo {
 public:
@@ -16,7 +15,6 @@ public:
     Type2& getSecond() { return t2; }
     const Type2& getSecond() const { return t2; }
 
-    // Fixed: the game has no caller of these two; other code may.
     void setFirst(const Type1& first) { t1 = first; }
     void setSecond(const Type2& second) { t2 = second; }
 

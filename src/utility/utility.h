@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+// Helpers of the toolkit for vectors and for texts.
+
 /// Deletes every object in a vector of owning pointers. The vector keeps its length and its entries become null, so a
 /// second call deletes nothing.
 template <typename T>
