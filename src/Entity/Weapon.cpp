@@ -37,6 +37,13 @@ Weapon::Weapon(const Vecteur2D& vect, const std::string& /*path*/, const double&
       cooldownStatue(0.0), beamLength(beamLength), beamSpeed(beamSpeed) {}
 
 
+Weapon::Weapon(const Weapon& w)
+    : Entity(w.getPosition(), w.isSolide(), w.getIsActivate(), w.getCollideBoxWidth(), w.getCollideBoxHeigth()),
+      m_texture(w.m_texture), waterConsume(w.waterConsume), radius(w.radius), beamRadius(w.beamRadius),
+      damage(w.damage), beamWidth(w.beamWidth), shotCoolldowmnTime(w.shotCoolldowmnTime),
+      cooldownStatue(w.cooldownStatue), beamLength(w.beamLength), beamSpeed(w.beamSpeed) {}
+
+
 Weapon::~Weapon() { deletePointerInVector(beams); }
 
 
@@ -50,7 +57,7 @@ bool Weapon::shoot(Vecteur2D pos, Tower& tower) {
 
     cooldownStatue = shotCoolldowmnTime;
     tower.removeWater(waterConsume);
-    // Fixed: a jet aimed at its own turret stays there until it touches a grunt.
+    // Quirk: a jet aimed at its own turret stays there until it touches a grunt.
     const Vecteur2D direction(pos - getPos());
     beams.push_back(new Beam(beamWidth, beamSpeed, beamRadius, getPos(), damage, beamLength, direction));
     playSound(son_stream);

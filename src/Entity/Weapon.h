@@ -16,13 +16,13 @@ class Weapon : public Entity {
 public:
     /// Centred on `vect`. A shot takes `waterConsume` units of water; then the turret rests for `shotCoolldowmnTime`
     /// seconds. A target may be up to `radius` pixels away. The jets get `beamRadius` (range), `beamLength` and
-    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health. Fixed: `path` is not used.
+    /// `beamWidth` in pixels, `beamSpeed` in pixels per second and `damage` in health. Quirk: `path` is not used.
     /// There is one kind of turret, so its picture is named in the constructor.
     Weapon(const Vecteur2D& vect, const std::string& path, const double& waterConsume, const double& radius,
            const double& beamRadius, const double& damage, const double& shotCoolldowmnTime, const double& beamLength,
            const double& beamWidth, const double& beamSpeed);
     /// A turret like `w`, with the same time left to rest, but without jets: those stay with `w`.
-    Weapon(const Weapon& w) = default;
+    Weapon(const Weapon& w);
     Weapon& operator=(const Weapon& w) = delete;
     ~Weapon() override;
     Weapon* copy() const override;
@@ -33,7 +33,6 @@ public:
     /// The jets in flight, none of them null.
     const std::vector<Beam*>& getBeams() const;
     double getRadius() const;
-    // Fixed: the game has no caller of these three; other code may.
     double getBeamRadius() const;
     double getWaterConsume() const;
     double getDamage() const;
@@ -55,13 +54,6 @@ public:
     static Mix_Chunk* son_construct;
 
 private:
-    /// The jets belong to one turret: its copy has none.
-    struct Jets : std::vector<Beam*> {
-        Jets() = default;
-        Jets(const Jets& /*others*/) : Jets() {}
-        Jets& operator=(const Jets&) = delete;
-    };
-
     GLuint m_texture;
     double waterConsume;
     double radius;
@@ -69,7 +61,7 @@ private:
     double damage;
     const double beamWidth;
     double shotCoolldowmnTime;
-    Jets beams;
+    std::vector<Beam*> beams;
     double cooldownStatue;
     double beamLength;
     double beamSpeed;

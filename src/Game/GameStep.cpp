@@ -41,7 +41,7 @@ void Game::update(const double& dt) {
     if (isInBetwenWave)
         updateBetwenWave(dt);
 
-    // Fixed: defeat is checked first, so a wave whose last grunt spoils the water is lost, not cleared.
+    // Quirk: defeat is checked first, so a wave whose last grunt spoils the water is lost, not cleared.
     if (m_tower.getPureWaterLeft() < LEAST_PURE_WATER && !isInBetwenWave && time > TIME_OF_GRACE && !loos) {
         loos = true;
         playJingle(son_defeat);
@@ -56,7 +56,7 @@ void Game::update(const double& dt) {
         timeBeforeNextWave = TIME_BETTWENN_WAVE;
     }
 
-    // Fixed: the time spent on the title counts, so the grunts due by then enter together when it is left.
+    // Quirk: the time spent on the title counts, so the grunts due by then enter together when it is left.
     if (hasLoos())
         timeLoos += dt;
     else
@@ -82,6 +82,11 @@ void Game::releaseEnnemis() {
 
 
 void Game::resolveCollisions() {
+    // Not at the end: an exception in a reaction would leave this step's pairs behind for the next one.
+    entitys.clear();
+    discs.clear();
+    encounters.clear();
+
     // Encounters are answered in this order.
     const auto add = [this](Entity* entity) {
         if (!entity->canCollide())
@@ -108,10 +113,6 @@ void Game::resolveCollisions() {
 
     for (const auto& encounter : encounters)
         encounter.getFirst()->collide(encounter.getSecond());
-
-    entitys.clear();
-    discs.clear();
-    encounters.clear();
 }
 
 
@@ -146,7 +147,8 @@ void Game::drainWater() {
         return;
 
     argentGain += diffWater * argentParWater;
-    temps_son += 1; // Fixed: counts on from wave to wave, and across a restart.
+    // Quirk: the steps are counted on from wave to wave, and across a restart. Quirk: coins sound at every 21st step.
+    temps_son += 1;
     if (temps_son > STEPS_BETWEEN_COINS) {
         playSound(son_coinsound);
         playSound(son_pourwater);
@@ -159,7 +161,8 @@ void Game::drainWater() {
 void Game::payOut() {
     finalWaterLeft = true;
     argentGain += m_tower.getPureWaterLeft() * argentParWater;
-    // Fixed: the fraction of a coin is dropped, and the water paid for here stays in the tank.
+    // Quirk: the fraction of a coin is dropped, and the water paid for here stays in the tank. Quirk: the cash register
+    // rings even if nothing is paid.
     argent = static_cast<int>(argent + argentGain);
     playSound(son_cashregister);
 }
