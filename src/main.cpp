@@ -30,7 +30,8 @@ struct Loop {
     bool gameStart = false; // a key has left the title screen in this frame
 };
 
-// SDL counts the rows of the window from its top, the game from its bottom.
+// SDL counts the rows of the window from its top, the game from its bottom. Quirk: the top row is 768, and 0 is never
+// reached.
 int upwards(int mouseY) { return tailleEcranY - mouseY; }
 
 
@@ -46,8 +47,8 @@ void onKeyDown(SDLKey key, Loop& loop) {
         // The key press that leaves the title screen never pauses.
         loop.pause = !loop.pause && !game.getIsInTitleScreen() && !loop.gameStart;
     } else if (key == SDLK_r) {
-        // Fixed: on the title R starts the game and restarts it at once, so the title stays and the game's music plays.
-        // A restart keeps the music that plays.
+        // Quirk: on the title, R starts the game and restarts it at once: the title stays, and the game's music plays.
+        // Quirk: a restart keeps the music that plays, and a button that is held to fire.
         game.restart();
         loop.pause = false;
     } else if (key == SDLK_ESCAPE) {
@@ -56,9 +57,9 @@ void onKeyDown(SDLKey key, Loop& loop) {
 }
 
 
-// A click on the turret button selects a turret or puts it back. With a turret selected, a click is one attempt to
-// place it. Any other click begins to fire. Fixed: the shop also sells while the game is paused, between waves and
-// after a defeat.
+// A click on the turret button selects a turret or deselects it. With a turret selected, a click is one attempt to
+// place it. Any other click begins to fire. Quirk: the shop also sells while the game is paused, between waves and
+// after a defeat. Quirk: a refused attempt ends the selection, too.
 void clickField(Loop& loop) {
     Game& game = loop.game;
     if (game.aCliqueTourelle(loop.coord_souris_x, loop.coord_souris_y)) {
@@ -77,7 +78,7 @@ void clickField(Loop& loop) {
 
 void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     Game& game = loop.game;
-    // Fixed: any button and any turn of the wheel leaves the title, and a left click that does so also clicks the
+    // Quirk: any button and any turn of the wheel leaves the title, and a left click that does so also clicks the
     // field.
     if (game.getIsInTitleScreen()) {
         startGameMusic(loop.musique_tundrix);
@@ -86,13 +87,14 @@ void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     if (button.button != SDL_BUTTON_LEFT)
         return;
 
-    // Fixed: the phase lasts 15 seconds, not 25, so this is true at any moment of it, and every click counts.
+    // The first left click of the phase keeps the countdown from stopping. Quirk: it counts at any moment, because the
+    // phase lasts 15 seconds, not 25.
     constexpr double CLICK_CLOCK = 25.0;
     if (game.getIsInBetwenWave() && !game.isContinueToPlay() &&
         CLICK_CLOCK - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)
         game.setContinueToPlay(true);
 
-    // Fixed: while the button is held to fire, another press of it does nothing else.
+    // Quirk: while the button is held to fire, another press of it does nothing else.
     if (!loop.clic) {
         loop.coord_souris_x = button.x;
         loop.coord_souris_y = upwards(button.y);
@@ -116,7 +118,7 @@ void onEvent(const SDL_Event& event, Loop& loop) {
     case SDL_MOUSEBUTTONDOWN:
         onMouseButtonDown(event.button, loop);
         break;
-    case SDL_MOUSEBUTTONUP: // Fixed: any button, the wheel too, stops the fire.
+    case SDL_MOUSEBUTTONUP: // Quirk: releasing any button, the wheel too, stops the fire.
         loop.clic = false;
         break;
     default:
@@ -142,7 +144,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         constexpr double STEP_SECONDS = 0.02;
         constexpr int BITS_PER_PIXEL = 32;
 
-        // Fixed: nothing checks whether SDL or the window could be opened.
+        // Quirk: nothing checks whether SDL or the window could be opened.
         SDL_Init(SDL_INIT_VIDEO);
         SDL_WM_SetCaption("Vorel Defense INC.", nullptr);
         openAudio();
@@ -180,13 +182,13 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
             pace.wait(dt);
         }
 
-        // Fixed: the game itself is destroyed after SDL has ended, at the end of this block.
+        // Quirk: the game itself is destroyed after SDL has ended, at the end of this block.
         freeSounds();
         Mix_FreeMusic(musique_tundrix);
         Mix_CloseAudio();
         SDL_Quit();
     } catch (...) {
-        // Fixed: only this word, and status 0. The system closes what was opened.
+        // Quirk: only this word, and exit status 0. The system closes what was opened.
         std::cout << "error" << std::endl;
     }
     return 0;

@@ -1,7 +1,7 @@
 #include "pace.h"
 
-// The second reading is the time that the first frame is measured from. The first reading is replaced before it is
-// used; the order of the two is kept all the same.
+// The first frame is measured from dernierTemps, so that is read last. tempsActuel gets a value only so that none is
+// undefined: wait() replaces it.
 Pace::Pace() : tempsActuel(SDL_GetTicks()), dernierTemps(SDL_GetTicks()) {}
 
 
@@ -10,6 +10,6 @@ void Pace::wait(double dt) {
     const Uint32 elapsed = tempsActuel - dernierTemps;
     if (elapsed < dt)
         SDL_Delay(static_cast<Uint32>(dt) - elapsed);
-    // Fixed: the time before the wait, so the game runs ahead of the clock.
+    // Quirk: the next frame is measured from before this wait, so the game runs ahead of the clock.
     dernierTemps = tempsActuel;
 }

@@ -11,7 +11,7 @@ inline constexpr int FIRST_FREE_CHANNEL = -1;
 /// Plays a sound once; silent without a sound or a free channel. If a channel is given, it stops what it was playing.
 void playSound(Mix_Chunk* son, int channel = FIRST_FREE_CHANNEL);
 
-/// Plays a jingle once, on the jingles' channel and louder than effects. Fixed: the channel keeps that volume, so an
+/// Plays a jingle once, on the jingles' channel and louder than effects. Quirk: the channel keeps that volume, so an
 /// effect that the mixer plays there later is just as loud.
 void playJingle(Mix_Chunk* son);
 

@@ -70,7 +70,7 @@ void Beam::draw(const double& /*dt*/) const {
     constexpr double tx = Game::largeur_case;
     constexpr double ty = Game::hauteur_case;
 
-    // The picture points to the right; turn it to the direction of flight. Fixed: the position is its lower-left
+    // The picture points to the right; turn it to the direction of flight. Quirk: the position is its lower-left
     // corner.
     glPushMatrix();
     const double angle = dir.getAngle();
@@ -79,8 +79,8 @@ void Beam::draw(const double& /*dt*/) const {
     glTranslated(-x - width / 2, -y - length / 2, 0);
 
     if (explose) {
-        // The splash is larger than the jet, and its row of the sheet is the lower one. Fixed: it is off its centre,
-        // because it begins at the jet's corner and turns with the jet.
+        // The splash is larger than the jet, and its row of the sheet is the lower one. Quirk: it is not centred on the
+        // jet: it shares the jet's lower-left corner, and turns with it.
         constexpr double f = 4.0;
         const double cx = static_cast<double>(sprite) / EXPLOSION_FRAMES;
         drawTexturedQuad(m_explosion, x, y, f * t * tx, f * t * ty, {cx, 0.0, cx + 1.0 / EXPLOSION_FRAMES, 0.5});

@@ -25,7 +25,6 @@ public:
     /// It has burst, so it hurts nobody any more.
     bool getExplose() const;
     double getDamage() const;
-    // Fixed: the game has no caller of these three; other code may.
     double getLength() const;
     double getRange() const;
     double getWidth() const;

@@ -27,7 +27,7 @@ constexpr double SECONDS_PER_WALK_FRAME = 0.1666;
 constexpr double EIGHTH_TURN = 45.0;
 constexpr double THREE_EIGHTHS_TURN = 135.0;
 
-// Fixed: this many of a hundred deaths are drawn wrong. The dice are thrown again at every further hit.
+// Quirk: this many of a hundred deaths show the wrong picture. Quirk: the dice are thrown again at every further hit.
 constexpr int GLITCHES_PER_HUNDRED = 19;
 
 } // namespace
@@ -81,14 +81,14 @@ void Ennemi::setPolution(double newPolution) { polution = newPolution; }
 
 
 void Ennemi::update(const double& dt, const Game& game) {
-    // Fixed: grunts that are gone walk on unseen. Late in a game there are thousands of them, so nothing here
-    // allocates.
+    // Quirk: grunts that are gone walk on unseen. The hundredth wave has almost three hundred grunts, so
+    // nothing here allocates.
     const Vecteur2D& pos = getPosition();
     const Vecteur2D& goal = game.getTower().getPosition();
     const double dx = goal[0] - pos[0];
     const double dy = goal[1] - pos[1];
 
-    // Fixed: nothing stops a grunt, not even its own explosion, and one that reaches the tower exploding still spoils
+    // Quirk: nothing stops a grunt, not even its own explosion, and one that reaches the tower exploding still pollutes
     // it.
     const double d = std::sqrt(dx * dx + dy * dy);
     if (d != 0.0)
@@ -116,7 +116,7 @@ void Ennemi::face(double dx, double dy) {
     else if (alpha > THREE_EIGHTHS_TURN || alpha < -THREE_EIGHTHS_TURN)
         direction = LEFT;
     else
-        direction = DOWN; // Fixed: exact diagonals too.
+        direction = DOWN; // Quirk: exact diagonals face down too.
 }
 
 

@@ -20,10 +20,9 @@ public:
     Ennemi* copy() const override;
 
     bool isAlive() const;
-    /// Takes health away. At 0 or below the grunt explodes. Fixed: it cries then and at every further hit.
+    /// Takes health away. At 0 or below the grunt explodes and cries. Quirk: it cries again at every further hit.
     void removeHealth(const double& healthMinus);
 
-    // Fixed: of these the game calls getPolution only; other code may call them all.
     double getHealth() const;
     void setHealth(double newHealth);
     double getSpeed() const;

@@ -16,7 +16,7 @@ class Tower;
 /// the first then tells the second what it is (collide), and the second answers (onCollide...).
 class Entity {
 public:
-    /// At `position` (pixels). Fixed: `collideBoxWidth` is the radius of the collision disc in pixels, and
+    /// At `position` (pixels). Quirk: `collideBoxWidth` is the radius of the collision disc in pixels, and
     /// `collideBoxHeigth` is only reported.
     Entity(const Vecteur2D& position, const bool& _isSolide, const bool& isActivate, double collideBoxWidth,
            double collideBoxHeigth);
@@ -52,8 +52,6 @@ public:
     /// The distance to a point in pixels.
     double distanceTo(const Vecteur2D& point) const;
     double distanceTo(double x, double y) const;
-
-    // Fixed: the game calls none of these five, nor isColliding, nor any copy but a turret's. Other code may.
 
     /// The column and row of the cell at the position, with the fraction cut off: -31 is in cell 0.
     Vecteur2D getPosCase() const;
@@ -104,7 +102,7 @@ protected:
     static constexpr const char* EXPLOSION_PICTURE = "Assets/img/VorelDefense_explosions_64.png";
     static constexpr int EXPLOSION_FRAMES = 8;
 
-    /// Advances a burst by `dt` seconds: its first frame is held for a time. Fixed: then each step shows the next,
+    /// Advances a burst by `dt` seconds: its first frame is held for a time. Quirk: then each step shows the next,
     /// however long it is. `elapsed` is the time since the burst, in seconds. Returns whether the burst is over.
     static bool advanceExplosion(const double& dt, double& elapsed, int& frame);
 };

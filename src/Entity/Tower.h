@@ -24,7 +24,7 @@ public:
 
     /// Whether there is that much pure water.
     bool canRemoveWater(const double& water) const;
-    /// Takes water out, down to an empty tank. Fixed: pollution stays in the tank and may then exceed the water, so ask
+    /// Takes water out, down to an empty tank. Quirk: pollution stays in the tank and may then exceed the water. Ask
     /// canRemoveWater first.
     void removeWater(const double& water);
     /// Fills water in, up to the capacity.

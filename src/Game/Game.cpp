@@ -148,7 +148,7 @@ int Game::getLargeurCase() const { return static_cast<int>(largeur_case); }
 int Game::getHauteurCase() const { return static_cast<int>(hauteur_case); }
 
 
-// Fixed: a fresh generator each time, seeded with the clock's low 32 bits, so grunts released at one reading of the
+// Quirk: a fresh generator each time, seeded with the clock's low 32 bits, so grunts released at one reading of the
 // clock enter at one place.
 Vecteur2D Game::spawnEnnemi() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
@@ -157,7 +157,7 @@ Vecteur2D Game::spawnEnnemi() {
     std::uniform_real_distribution<double> dis(0.0, 2 * width + 2 * heigth);
     const double positionOnPerimeter = dis(RNG);
 
-    // Fixed: the side edges take `width` units of the perimeter and the others `heigth`. So grunts may enter at the
+    // Quirk: the side edges take `width` units of the perimeter and the others `heigth`. So grunts may enter at the
     // sides above the window's top, and never above or below its rightmost part.
     constexpr double OUTSIDE = 30.0;
     Vecteur2D pos;

@@ -17,7 +17,7 @@ struct Origin {
     int stepY, spreadY;
 };
 
-// Fixed: on the right and above, a group may begin beyond the map.
+// Quirk: on the right and above, a group may begin beyond the map.
 constexpr Origin ORIGINS[] = {
     {0, 0, 1, 10, 1, 8},
     {Game::largeur, 0, -1, 8, 1, 6},
@@ -67,7 +67,8 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     const std::string coins{mark(tab_sol, x + 1, y + 1), mark(tab_sol, x - 1, y + 1), mark(tab_sol, x - 1, y - 1),
                             mark(tab_sol, x + 1, y - 1)};
 
-    // The first rule whose diagonal neighbour is a patch and whose sides match gives the tile.
+    // The first rule whose diagonal neighbour is a patch and whose sides match gives the tile. Quirk: of several
+    // diagonal patches it shows only one.
     enum Diagonal { UPPER_RIGHT, UPPER_LEFT, LOWER_LEFT, LOWER_RIGHT, WHATEVER };
     constexpr struct {
         Diagonal diagonal;
@@ -83,7 +84,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     for (const auto& rule : RULES)
         if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
-    // Fixed: also between patches on opposite sides, on three sides, or on two whose common corner is plain.
+    // Quirk: also between patches on opposite sides, on three sides, or on two whose common corner is plain.
     return PLAIN_TILE;
 }
 

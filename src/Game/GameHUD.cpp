@@ -54,7 +54,7 @@ void Game::afficherArgentGain(const double& /*dt*/) const { drawMoney(static_cas
 
 void Game::drawMoney(int amount) const {
     // The dollar sign's square picture is as high as the digits.
-    constexpr int DIGITS = 6; // Fixed: a million shows as 000000.
+    constexpr int DIGITS = 6; // Quirk: a million shows as 000000.
     constexpr double f = 2.4; // how much smaller than its picture a digit is
     constexpr double w = DIGIT_WIDTH / f;
     constexpr double h = DIGIT_HEIGHT / f;

@@ -37,7 +37,7 @@ constexpr double WAVE_PANEL_HEIGHT = 256.0;
 constexpr double WAVE_NUMBER_X = 500.0;
 constexpr double WAVE_NUMBER_Y = 45.0;
 constexpr double WAVE_NUMBER_ENLARGED = 2.0;
-constexpr int WAVE_NUMBER_DIGITS = 2; // Fixed: wave 100 shows as 00.
+constexpr int WAVE_NUMBER_DIGITS = 2; // Quirk: wave 100 shows as 00.
 
 
 // A slice of the pie around (`x`, `y`), between two points on its rim. It is a fan because a slice of more than half
@@ -73,7 +73,7 @@ void Game::draw(const double& dt, const double& x, const double& y) const {
     constexpr double waeponRadiusForMouse = 40.0;
     for (const Weapon* w : weapons) {
         w->draw(dt);
-        // Fixed: the disc lies over this turret and under the next.
+        // Quirk: the disc lies over this turret and under the next.
         if (w->distanceTo(mousePos[0], mousePos[1]) < waeponRadiusForMouse && isPlaying())
             openglDrawCircle(w->getPosition(), w->getRadius(), DISC_SEGMENTS);
     }
@@ -105,7 +105,7 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
     double alpha = 1.0;
     if (e < timeApearRoundMenu)
         alpha = e / timeApearRoundMenu;
-    else if (e >= FADES_OUT) // Fixed: falls below 0 in the end, which shows nothing.
+    else if (e >= FADES_OUT) // Quirk: alpha falls below 0 in the end.
         alpha = 1 - (e - FADES_OUT) / timeDisapearRoundMenu;
     glColor4d(1, 1, 1, alpha);
 
@@ -117,7 +117,7 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
     const int boundary = static_cast<int>(ratio * pressision);
     drawSlice(m_texture_Piechart_evil, xPosChart, yPosChart, 0, boundary);
     drawSlice(m_texture_Piechart_water, xPosChart, yPosChart, boundary, pressision);
-    // Fixed: a fortieth of the frame, beside the pie.
+    // Quirk: only a fortieth of the frame is drawn, beside the pie.
     drawSlice(m_texture_Piechart_skin, xPosChart + xSkinDiff, yPosChart + ySkinDiff, 0, 1);
 
     glPushMatrix();

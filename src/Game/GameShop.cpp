@@ -22,7 +22,7 @@ constexpr double JET_SPEED = 80.0;
 constexpr double TOO_NEAR_THE_TOWER = 70.0;
 constexpr double TOO_NEAR_A_TURRET = 50.0;
 
-// The lower-left corner of the cell that a point lies in. Fixed: turrets stand there, not in the cell's middle.
+// The lower-left corner of the cell that a point lies in. Quirk: turrets stand there, not in the cell's middle.
 int snappedX(int x) { return x - x % static_cast<int>(Game::largeur_case); }
 
 
@@ -31,7 +31,7 @@ int snappedY(int y) { return y - y % static_cast<int>(Game::hauteur_case); }
 } // namespace
 
 
-// Fixed: all edges but the lowest belong to the button.
+// Quirk: all edges but the lowest belong to the button.
 bool Game::aCliqueTourelle(const int& x, const int& y) {
     return x >= x_tourelle && x <= x_tourelle + w_tourelle && y > y_tourelle && y <= y_tourelle + h_tourelle;
 }
@@ -50,7 +50,7 @@ void Game::poserTourelle(const int& x, const int& y) {
     const int cx = snappedX(x);
     const int cy = snappedY(y);
     const Vecteur2D weaponPlace(cx, cy);
-    // Fixed: nothing else is in the way, neither panels nor the edge of the window.
+    // Quirk: only the tower and other turrets are in the way, neither panels nor the edge of the window.
     bool conflict = m_tower.distanceTo(weaponPlace) < TOO_NEAR_THE_TOWER;
     for (const Weapon* w : weapons)
         conflict = conflict || w->distanceTo(weaponPlace) < TOO_NEAR_A_TURRET;
@@ -64,7 +64,7 @@ void Game::poserTourelle(const int& x, const int& y) {
 }
 
 
-// Fixed: shown even where the turret can't be placed, or can't be paid for.
+// Quirk: shown even where the turret can't be placed, or can't be paid for.
 void Game::dessinerTourelleGrisee(const int& x, const int& y) const {
     constexpr double t = Weapon::SIZE_IN_CELLS;
     constexpr double w = t * largeur_case;

@@ -32,7 +32,7 @@ public:
     std::vector<Ennemi>& getEnnemisInGame();
     /// Seconds between two releases.
     double getTimeDiffBetwenSpawn() const;
-    /// The number of waves built before this one, in all games. Fixed: the game has no caller of it; other code may.
+    /// The number of waves built before this one, in all games.
     int getId() const;
     /// The whole roster has been released, and none of it is still in play.
     bool isFinish() const;
