@@ -3,8 +3,8 @@
 
     brokenFiles.py PROGRAM
 
-Each game must open its window, take a key and clicks, and end with status 0 when the window is closed. Prints a table of
-the cases tried and survived. Root can read every file, so only other users can try unreadable ones.
+Each game must open its window, take a key and clicks, and end with exit status 0 when the window is closed. Prints a
+table of the cases tried and survived. Root can read every file, so only other users can try unreadable ones.
 """
 import collections
 import os

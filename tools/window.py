@@ -78,7 +78,7 @@ class Window:
 
     def look(self):
         if self.program.poll() is not None:
-            sys.exit(f"The program ended by itself with status {self.program.returncode}.")
+            sys.exit(f"The program exited by itself, with exit status {self.program.returncode}.")
         return rgb("import", "-window", "root", "-crop", f"{WIDTH}x{HEIGHT}+0+0")
 
     def until(self, what, seen, seconds=60):
@@ -111,4 +111,4 @@ class Window:
 
     def ended(self, seconds=60):
         if status := self.program.wait(seconds):
-            sys.exit(f"The program ended with status {status}.")
+            sys.exit(f"The program ended with exit status {status}.")
