@@ -84,7 +84,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     for (const auto& rule : RULES)
         if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
-    // Quirk: also between patches on opposite sides, on three sides, or on two whose common corner is plain.
+    // Quirk: the ground is plain also between patches on opposite sides, on three sides, or on two with a plain corner.
     return PLAIN_TILE;
 }
 

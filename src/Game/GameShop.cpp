@@ -64,7 +64,7 @@ void Game::poserTourelle(const int& x, const int& y) {
 }
 
 
-// Quirk: shown even where the turret can't be placed, or can't be paid for.
+// Quirk: the preview is shown even where the turret can't be placed, or can't be paid for.
 void Game::dessinerTourelleGrisee(const int& x, const int& y) const {
     constexpr double t = Weapon::SIZE_IN_CELLS;
     constexpr double w = t * largeur_case;

@@ -161,10 +161,9 @@ void Game::drainWater() {
 void Game::payOut() {
     finalWaterLeft = true;
     argentGain += m_tower.getPureWaterLeft() * argentParWater;
-    // Quirk: the fraction of a coin is dropped, and the water paid for here stays in the tank. Quirk: the cash register
-    // rings even if nothing is paid.
+    // Quirk: the fraction of a coin is dropped, and the water paid for here stays in the tank.
     argent = static_cast<int>(argent + argentGain);
-    playSound(son_cashregister);
+    playSound(son_cashregister); // Quirk: it rings even if nothing is paid.
 }
 
 
