@@ -87,14 +87,14 @@ void onMouseButtonDown(const SDL_MouseButtonEvent& button, Loop& loop) {
     if (button.button != SDL_BUTTON_LEFT)
         return;
 
-    // The first left click of the phase keeps the countdown from stopping. Quirk: it counts at any moment, because the
-    // phase lasts 15 seconds, not 25.
+    // The first left click between waves continues: the countdown will not stop. Quirk: it counts at any moment, even
+    // before the panel has appeared. The clock starts at 25 seconds, but the phase lasts 15.
     constexpr double CLICK_CLOCK = 25.0;
     if (game.getIsInBetwenWave() && !game.isContinueToPlay() &&
         CLICK_CLOCK - game.getTimeBeforeNextWave() > Game::timeApearRoundMenu)
         game.setContinueToPlay(true);
 
-    // Quirk: while the button is held to fire, another press of it does nothing else.
+    // Quirk: while the turrets fire, another press does nothing more, not even aim.
     if (!loop.clic) {
         loop.coord_souris_x = button.x;
         loop.coord_souris_y = upwards(button.y);
@@ -188,7 +188,7 @@ extern "C" int SDL_main(int /*argc*/, char** /*argv*/) {
         Mix_CloseAudio();
         SDL_Quit();
     } catch (...) {
-        // Quirk: only this word, and exit status 0. The system closes what was opened.
+        // Quirk: any exception ends the game with only this word and exit status 0. The system closes what was opened.
         std::cout << "error" << std::endl;
     }
     return 0;

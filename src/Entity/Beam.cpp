@@ -70,8 +70,8 @@ void Beam::draw(const double& /*dt*/) const {
     constexpr double tx = Game::largeur_case;
     constexpr double ty = Game::hauteur_case;
 
-    // The picture points to the right; turn it to the direction of flight. Quirk: the position is its lower-left
-    // corner.
+    // The picture points to the right; turn it to the direction of flight. Quirk: before the turn its lower-left
+    // corner, not its middle, is at the jet's position.
     glPushMatrix();
     const double angle = dir.getAngle();
     glTranslated(x + width / 2, y + length / 2, 0);

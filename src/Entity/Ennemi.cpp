@@ -27,7 +27,7 @@ constexpr double SECONDS_PER_WALK_FRAME = 0.1666;
 constexpr double EIGHTH_TURN = 45.0;
 constexpr double THREE_EIGHTHS_TURN = 135.0;
 
-// Quirk: this many of a hundred deaths show the wrong picture. Quirk: the dice are thrown again at every further hit.
+// Quirk: this many of a hundred deaths show the wrong picture.
 constexpr int GLITCHES_PER_HUNDRED = 19;
 
 } // namespace
@@ -55,6 +55,7 @@ void Ennemi::removeHealth(const double& healthMinus) {
     if (isAlive())
         return;
 
+    // Quirk: every further hit makes it cry again, and throws the dice for its picture again.
     playSound(son_explosion);
     playSound(son_grunt);
     glitch = std::rand() % 100 >= 100 - GLITCHES_PER_HUNDRED;
@@ -81,15 +82,14 @@ void Ennemi::setPolution(double newPolution) { polution = newPolution; }
 
 
 void Ennemi::update(const double& dt, const Game& game) {
-    // Quirk: grunts that are gone walk on unseen. The hundredth wave has almost three hundred grunts, so
-    // nothing here allocates.
+    // Up to 300 grunts pass here in a step of wave 101, so nothing here allocates. Quirk: grunts that are gone walk on
+    // unseen.
     const Vecteur2D& pos = getPosition();
     const Vecteur2D& goal = game.getTower().getPosition();
     const double dx = goal[0] - pos[0];
     const double dy = goal[1] - pos[1];
 
-    // Quirk: nothing stops a grunt, not even its own explosion, and one that reaches the tower exploding still pollutes
-    // it.
+    // Quirk: an exploding grunt walks on, and still pollutes the tower if it reaches it.
     const double d = std::sqrt(dx * dx + dy * dy);
     if (d != 0.0)
         move(dx * (1.0 / d) * speed * dt, dy * (1.0 / d) * speed * dt);
@@ -103,7 +103,7 @@ void Ennemi::update(const double& dt, const Game& game) {
     if (explose && advanceExplosion(dt, e_delta_temps, e_sprite))
         isActivate = false;
 
-    face(goal[0] - pos[0], goal[1] - pos[1]);
+    face(goal[0] - pos[0], goal[1] - pos[1]); // from its new place, to which `pos` refers
 }
 
 
@@ -144,8 +144,8 @@ void Ennemi::draw(const double& /*dt*/) const {
                          {cx + SIDE_MARGIN, r - 1.0 / FACINGS + BOTTOM_MARGIN, cx + 1.0 / WALK_FRAMES - SIDE_MARGIN,
                           r - TOP_MARGIN});
     } else {
-        // The explosion's row of its sheet is the upper one. A glitch shows the same part of the sheet of walking
-        // grunts, no larger than a grunt.
+        // The explosion's row of its sheet is the upper one. A glitch cuts the same part out of the wrong sheet, that
+        // of walking grunts, and does not enlarge it.
         constexpr double EXPLOSION_ENLARGED = 3.0;
         const double f = glitch ? 1.0 : EXPLOSION_ENLARGED;
         const double cx = static_cast<double>(e_sprite) / EXPLOSION_FRAMES;

@@ -102,8 +102,9 @@ protected:
     static constexpr const char* EXPLOSION_PICTURE = "Assets/img/VorelDefense_explosions_64.png";
     static constexpr int EXPLOSION_FRAMES = 8;
 
-    /// Advances a burst by `dt` seconds: its first frame is held for a time. Quirk: then each step shows the next,
-    /// however long it is. `elapsed` is the time since the burst, in seconds. Returns whether the burst is over.
+    /// Advances a burst by `dt` seconds: its first frame is held for a time. Quirk: then every step
+    /// shows the next one, however long the step is. `elapsed` is the time since the burst, in seconds. Returns whether
+    /// the burst is over.
     static bool advanceExplosion(const double& dt, double& elapsed, int& frame);
 };
 

@@ -81,8 +81,8 @@ void Tower::draw(const double& /*dt*/) const {
     glColor4d(1, 1, 1, 1);
     drawTexturedQuad(m_texture_fond, x, y, t * tx, t * ty);
 
-    // The water turns red with pollution. Quirk: its picture is not cut but squeezed, towards this height above the
-    // bottom.
+    // The water turns red with pollution. Quirk: its picture is not cut but squeezed, towards the row this far above
+    // the bottom.
     constexpr double posy = 62.0;
     const double factor = m_water / m_capacity;
     const double decallage = (1 - factor) * posy;

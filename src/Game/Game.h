@@ -65,9 +65,9 @@ public:
 
     /// Appends wave 0.
     void init();
-    /// A fresh game on the title screen. Quirk: four things stay: the ground, the count from which each `Wave` takes
-    /// its number, the steps counted towards the next coin sound, and the seconds before the next wave, until a wave
-    /// ends. Quirk: isContinueToPlay is false afterwards, and true in a new game.
+    /// A fresh game on the title screen. Quirk: four things stay: the ground, the count of waves that gives each its
+    /// number, the steps counted towards the next coin sound, and getTimeBeforeNextWave(). Quirk: isContinueToPlay() is
+    /// false afterwards, and true in a new game.
     void restart();
 
     // What state it is in.

@@ -17,7 +17,7 @@ struct Origin {
     int stepY, spreadY;
 };
 
-// Quirk: on the right and above, a group may begin beyond the map.
+// Quirk: on the right and above, a group's centre may lie one cell beyond the map.
 constexpr Origin ORIGINS[] = {
     {0, 0, 1, 10, 1, 8},
     {Game::largeur, 0, -1, 8, 1, 6},
@@ -84,7 +84,7 @@ int plainCellTile(const Ground& tab_sol, int x, int y) {
     for (const auto& rule : RULES)
         if (code == rule.code && (rule.diagonal == WHATEVER || coins[rule.diagonal] == '1'))
             return rule.tile;
-    // Quirk: the ground is plain also between patches on opposite sides, on three sides, or on two with a plain corner.
+    // Quirk: the ground stays plain between patches on opposite sides, on three sides, or on two around a plain corner.
     return PLAIN_TILE;
 }
 

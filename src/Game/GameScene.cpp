@@ -105,7 +105,7 @@ void Game::drawRoudEnd(const double& dt, const double& /*x*/, const double& /*y*
     double alpha = 1.0;
     if (e < timeApearRoundMenu)
         alpha = e / timeApearRoundMenu;
-    else if (e >= FADES_OUT) // Quirk: alpha falls below 0 in the end.
+    else if (e >= FADES_OUT) // Quirk: alpha falls below 0 after nine seconds.
         alpha = 1 - (e - FADES_OUT) / timeDisapearRoundMenu;
     glColor4d(1, 1, 1, alpha);
 

@@ -147,7 +147,8 @@ void Game::drainWater() {
         return;
 
     argentGain += diffWater * argentParWater;
-    // Quirk: the steps are counted on from wave to wave, and across a restart. Quirk: coins sound at every 21st step.
+    // Quirk: the steps are counted on from wave to wave, and across a restart. Quirk: coins sound at every 21st step,
+    // not at every 20th.
     temps_son += 1;
     if (temps_son > STEPS_BETWEEN_COINS) {
         playSound(son_coinsound);

@@ -43,11 +43,11 @@ public:
     }
 
 private:
-    /// The time of day as "HH:MM:SS". Quirk: always one hour ahead of UTC.
+    /// The time of day as "HH:MM:SS". Quirk: it is always one hour ahead of UTC.
     static std::string timeStamp();
 
     std::string additionalString;
-    // Quirk: constant, although log() writes to it.
+    // Quirk: the stream is held as constant, although log() writes to it.
     const std::ostream& outStream;
 };
 

@@ -33,7 +33,7 @@ public:
     /// radians, everything else degrees.
     void setFormPolar(const double& norme, const double& angle);
 
-    /// The heading in degrees from the x axis towards the y axis, from -90 up to 270. Quirk: -90 for a zero vector.
+    /// The heading in degrees from the x axis towards the y axis, from -90 up to 270. Quirk: a zero vector's is -90.
     double getAngle() const;
     /// The same for the vector (`x`, `y`).
     static double angleOf(double x, double y);

@@ -87,7 +87,7 @@ private:
     std::vector<double> coords;
 };
 
-// Quirk: the results are constant. So nobody assigns to a sum by mistake.
+// The results are constant, so that nobody assigns to a sum by mistake.
 
 const Vecteur operator+(Vecteur vect1, const Vecteur& vect2);
 const Vecteur operator-(Vecteur vect1, const Vecteur& vect2);
@@ -105,7 +105,7 @@ const Vecteur operator/(const Vecteur& vect, const double& scal);
 
 /// The dot product.
 const double operator*(const Vecteur& vect1, const Vecteur& vect2);
-/// Quirk: for vectors of different dimensions it raises VECTEUR_SIZE_INCORRECT instead of returning false.
+/// Quirk: for vectors of different dimensions this and != raise VECTEUR_SIZE_INCORRECT, like compare().
 const bool operator==(const Vecteur& vect1, const Vecteur& vect2);
 const bool operator!=(const Vecteur& vect1, const Vecteur& vect2);
 
