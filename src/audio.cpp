@@ -20,22 +20,42 @@ namespace {
 constexpr int CHANNELS = 10;
 constexpr int FOR_EVER = -1;
 
-// Skips an ID3 tag if there is one. Its size is in four bytes of seven bits each.
-void skipTag(std::istream& file) {
+// Skips an ID3 tag and tells whether there was one. Its size is in four bytes of seven bits each, and counts neither
+// the header nor the footer.
+bool skipTag(std::istream& file) {
+    constexpr int FLAGS = 5;
     constexpr int SIZE_BEGINS = 6;
+    constexpr unsigned HAS_FOOTER = 0x10;
+    constexpr std::streamoff FOOTER_BYTES = 10;
+    const std::streampos begin = file.tellg();
     std::array<unsigned char, 10> header{};
     file.read(reinterpret_cast<char*>(header.data()), header.size());
-    const bool tag = file && header[0] == 'I' && header[1] == 'D' && header[2] == '3';
+    if (!file || header[0] != 'I' || header[1] != 'D' || header[2] != '3') {
+        file.clear();
+        file.seekg(begin);
+        return false;
+    }
     std::streamoff size = 0;
     for (std::size_t i = SIZE_BEGINS; i < header.size(); ++i)
         size = size << 7 | (header[i] & 0x7F);
-    file.clear();
-    file.seekg(tag ? static_cast<std::streamoff>(header.size()) + size : 0);
+    if ((header[FLAGS] & HAS_FOOTER) != 0)
+        size += FOOTER_BYTES;
+    file.seekg(size, std::ios::cur);
+    return true;
 }
 
 
-// Whether a frame of MPEG-1 or MPEG-2 layer III comes next: eleven bits set, then the version, where a third zero would
-// be MPEG-2.5, then the layer.
+// Skips what may precede the first frame: tags, and the zeros that some programs leave around them.
+void skipTagsAndZeros(std::istream& file) {
+    do {
+        while (file.peek() == 0)
+            file.ignore();
+    } while (skipTag(file));
+}
+
+
+// Whether a frame of MPEG-1 or MPEG-2 layer III comes next: eleven bits set, then two bits of version, the first of
+// which is clear in MPEG-2.5, then two of layer.
 bool beginsFrame(std::istream& file) {
     constexpr unsigned char MASK = 0xF6;
     constexpr unsigned char LAYER_III = 0xF2;
@@ -53,7 +73,7 @@ void openAudio() {
     constexpr int STEREO = 2;
     constexpr int CHUNK_SAMPLES = 1024;
     if (Mix_OpenAudio(HERTZ, AUDIO_S16LSB, STEREO, CHUNK_SAMPLES) == -1)
-        std::printf("%s", SDL_GetError()); // Fixed: without a line end.
+        std::printf("%s", SDL_GetError()); // Quirk: without a line end.
     Mix_AllocateChannels(CHANNELS);
 }
 
@@ -67,11 +87,11 @@ void setEffectsVolume() {
 
 // The mixer refuses a missing file and takes an empty one for a track, both without harm. But noise can crash its MP3
 // decoder, and at the low rates of MPEG-2.5 the mixer overruns its buffer. So a track has to begin with a frame of
-// MPEG-1 or MPEG-2, at once or after a tag. The rest is not checked: noise there still reaches the decoder.
+// MPEG-1 or MPEG-2, after nothing but tags and zeros. The rest is not checked: noise there still reaches the decoder.
 Mix_Music* loadMusic(const char* path) {
     std::ifstream file(path, std::ios::binary);
     const bool empty = file.peek() == std::ifstream::traits_type::eof();
-    skipTag(file);
+    skipTagsAndZeros(file);
     return empty || beginsFrame(file) ? Mix_LoadMUS(path) : nullptr;
 }
 

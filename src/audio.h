@@ -14,9 +14,9 @@ void openAudio();
 /// volume of music is set by startTitleMusic.
 void setEffectsVolume();
 
-/// Loads a track of MP3 music, which the caller frees with Mix_FreeMusic. Null if it can't be loaded, or if it begins,
-/// or goes on after an ID3 tag, with anything but layer III of MPEG-1 or MPEG-2. MPEG-2.5 (a sampling rate of 8, 11.025
-/// or 12 kHz) would make the mixer overrun its buffer. An empty file is left to the mixer.
+/// Loads a track of MP3 music, which the caller frees with Mix_FreeMusic. Null if it can't be loaded, or if what comes
+/// first, after ID3 tags and zeros, is not layer III of MPEG-1 or MPEG-2. MPEG-2.5 (a sampling rate of 8, 11.025 or
+/// 12 kHz) would make the mixer overrun its buffer. An empty file is left to the mixer.
 Mix_Music* loadMusic(const char* path);
 
 /// Loads the title music and all sounds, which classes keep static pointers to. What can't be loaded is null, and so
