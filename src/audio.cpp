@@ -73,7 +73,7 @@ void openAudio() {
     constexpr int STEREO = 2;
     constexpr int CHUNK_SAMPLES = 1024;
     if (Mix_OpenAudio(HERTZ, AUDIO_S16LSB, STEREO, CHUNK_SAMPLES) == -1)
-        std::printf("%s", SDL_GetError()); // Quirk: without a line end.
+        std::printf("%s", SDL_GetError()); // Quirk: the message has no line end.
     Mix_AllocateChannels(CHANNELS);
 }
 

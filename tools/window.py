@@ -104,6 +104,8 @@ class Window:
     def close(self):
         """Closes the window like its close button."""
         screen, windows = self.windows()
+        if not windows:
+            sys.exit("There is no window to close: the program has ended.")
         wish = screen.intern_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0
         windows[0].send_event(protocol.event.ClientMessage(
             window=windows[0], client_type=screen.intern_atom("WM_PROTOCOLS"), data=(32, wish)))
