@@ -7,7 +7,7 @@ import subprocess
 import unittest
 import wave
 
-SOURCES = "".join(file.read_text() for file in pathlib.Path("src").rglob("*.cpp"))
+SOURCES = "".join(file.read_text() for file in pathlib.Path("src").rglob("*.[ch]*"))
 PICTURES, SOUNDS = (sorted({pathlib.Path(name) for name in re.findall(f'"(Assets/(?:{folder})/[^"]+)"', SOURCES)})
                     for folder in ("img", "sfx|music"))
 # What the names of pictures don't say: the title fills the window, and sheets have this many columns and rows of cells.
@@ -47,6 +47,8 @@ class Assets(unittest.TestCase):
                     seconds = sound.getnframes() / 44100
                     self.assertLess(max(map(abs, memoryview(sound.readframes(-1)).cast("h"))), 32767, file)
                 self.assertTrue(mixer.Mix_LoadWAV_RW(ctypes.c_void_p(sdl.SDL_RWFromFile(bytes(file), b"rb")), 1), file)
+            if file.stem not in SECONDS:
+                self.fail(f"{file} is new: say in SECONDS of art/assetsTest.py how long it may last; now it is {seconds} seconds.")
             self.assertTrue(SECONDS[file.stem][0] <= seconds <= SECONDS[file.stem][1], f"{file} lasts {seconds} seconds")
 
 

@@ -59,45 +59,30 @@ TEST_F(Pictures, cursorFromXPMSetsABitForEachPixel) {
 }
 
 
-TEST_F(Pictures, drawAxisDrawsThreeColouredLinesWhateverWasEnabled) {
+TEST_F(Pictures, drawAxisDrawsThreeLinesWhateverWasEnabledAndRestoresIt) {
     glEnable(GL_TEXTURE_2D);
-    glEnable(GL_LIGHTING);
     drawAxis(5);
-    expectAsRecorded("axes", screen.drawn);
+    expectAsRecorded("axes", calls);
+    EXPECT_TRUE(screen.isAtRest()) << "not textured, and with the matrix of before";
 }
 
 
-TEST_F(Pictures, drawAxisLeavesOpenGLAsItWas) {
-    for (const GLenum ability : {GL_TEXTURE_2D, GL_LIGHTING, GL_BLEND})
-        glEnable(ability);
-    glColor4d(1, 1, 0, 1);
-    drawAxis(5);
-    EXPECT_EQ(screen.lineStyle(), "width 1 blended lit textured");
-    EXPECT_EQ(screen.state.colour, " colour 1 1 0 1");
-    EXPECT_EQ(screen.matrices.size(), 1U);
-}
+TEST_F(Pictures, initFullScreenSetsTheFirstModeIfAnyAreListed) {
+    unsigned int width = 7, height = 7;
+    for (const long answer : {0L, -1L}) { // no modes, or any mode will do
+        window.modes = reinterpret_cast<SDL_Rect**>(answer);
+        EXPECT_EQ(initFullScreen(&width, &height), 0);
+    }
+    EXPECT_EQ(joined("size", width, height), "size 7 7");
+    EXPECT_EQ(calls, Lines{});
 
-
-TEST_F(Pictures, initFullScreenSetsTheFirstModeOfSeveral) {
     SDL_Rect large{0, 0, 1920, 1080}, small{0, 0, 640, 480};
     SDL_Rect* modes[] = {&large, &small, nullptr};
     window.modes = modes;
-    unsigned int width = 0, height = 0;
     EXPECT_EQ(initFullScreen(&width, nullptr), 0);
     EXPECT_EQ(initFullScreen(nullptr, &height), 0);
-    EXPECT_EQ(std::pair(width, height), std::pair(1920U, 1080U));
+    EXPECT_EQ(joined("size", width, height), "size 1920 1080");
     EXPECT_EQ(calls, Lines(2, "full screen 1920 1080 24 OpenGL"));
     window.opens = false;
     EXPECT_EQ(initFullScreen(&width, &height), -1);
-}
-
-
-TEST_F(Pictures, initFullScreenChangesNothingWhereNoModesAreListed) {
-    for (const long answer : {0L, -1L}) { // no modes, or any mode will do
-        window.modes = reinterpret_cast<SDL_Rect**>(answer);
-        unsigned int width = 7, height = 7;
-        EXPECT_EQ(initFullScreen(&width, &height), 0);
-        EXPECT_EQ(std::pair(width, height), std::pair(7U, 7U));
-    }
-    EXPECT_EQ(calls, Lines{});
 }

@@ -1,6 +1,10 @@
 #include "Game/GameTest.h"
 
-#include "standin/standin.h"
+#include "Wave/Wave.h"
+#include "drawing.h"
+#include "sdlglutils.h"
+
+#include <stdexcept>
 
 TEST_F(GameTest, nobodyEntersOnTheTitleButItsTimeCounts) {
     for (int step = 0; step < 60; ++step)
@@ -11,39 +15,55 @@ TEST_F(GameTest, nobodyEntersOnTheTitleButItsTimeCounts) {
 }
 
 
-TEST_F(GameTest, restartLeavesNothingButTheGround) {
-    const Lines title = frameLines();
-    runSteps(100);
-    const Lines field = frameLines();
-    game.poserTourelle(800, 600);
-    game.activeTourelle();
-    runSteps(2750);
-    ASSERT_GT(money(), 1000) << "paid between waves";
-    dice = {99};
-    game.restart();
-    game.restart();
-    EXPECT_EQ(frameLines(), title);
-    runSteps(100);
-    EXPECT_EQ(frameLines(), field) << "with money, water and grunts as in a new game, and without turrets";
-    EXPECT_EQ(dice.size(), 1U) << "no dice are thrown for another ground";
+TEST_F(GameTest, aRestartedGameGoesLikeANewOne) {
+    for (const double spilled : {100, 1}) { // a game that is lost, and one whose first wave is paid
+        Lines newGame, restarted;
+        for (Lines* seen : {&newGame, &restarted}) {
+            *seen = frameLines(); // the title
+            runSteps(51);
+            spill(spilled);
+            for (const int steps : {101, 2660}) {
+                runSteps(steps);
+                seen->push_back(testing::PrintToString(frameLines()));
+            }
+            game.activeTourelle();
+            game.restart();
+        }
+        EXPECT_EQ(newGame, restarted) << spilled;
+    }
 }
 
 
-TEST_F(GameTest, theFirstWaveIsPaidAgainAfterARestart) {
-    runSteps(2512 + 300);
+TEST_F(GameTest, restartKeepsFourThings) {
+    const int waves = Wave(1).getId();
+    runSteps(2512 + 110); // the drain begins 101 steps after the wave
+    const double countdown = game.getTimeBeforeNextWave();
+    dice = {0};
     game.restart();
-    runSteps(2512 + 300);
-    EXPECT_GT(money(), 2000);
+    EXPECT_EQ(dice.size(), 1U) << "the ground: no dice are thrown for another one";
+    EXPECT_EQ(Wave(1).getId(), waves + 2) << "the number of the next wave; the restarted game has taken one";
+    EXPECT_EQ(game.getTimeBeforeNextWave(), countdown);
+    mixer.sounds.clear();
+    runSteps(2512 + 115);
+    EXPECT_EQ(mixer.sounds, (Lines{"VorelDefense_WellDone on channel 8", "CoinSound", "PourWater"}))
+        << "every 21st step of a drain, and the ten before the restart count";
 }
 
 
-TEST_F(GameTest, theDefeatFadesInAnewAfterARestart) {
-    for (const auto& [steps, colour] : {std::pair(101, " colour 1 1 1 0.202"), {1, " colour 1 1 1 0.002"}}) {
-        game.restart();
-        runSteps(51);
-        spill(100);
-        runSteps(steps);
-        EXPECT_NE(frameLines("PressRToRestart").at(0).find(colour), std::string::npos) << steps;
+TEST_F(GameTest, isContinueToPlayInANewGameAndNotInARestartedOne) {
+    EXPECT_TRUE(game.isContinueToPlay());
+    game.restart();
+    EXPECT_FALSE(game.isContinueToPlay());
+}
+
+
+TEST_F(GameTest, everyWaveHasThreeGruntsMoreThanTheOneBeforeButTheFirstHasOne) {
+    runSteps(0);
+    for (const int grunts : {1, 3, 6, 9, 12, 15}) {
+        game.update(100); // all of them are due now
+        game.update(0);
+        EXPECT_EQ(newGrunts(), grunts);
+        game.startNewWave();
     }
 }
 
@@ -81,11 +101,40 @@ TEST_F(GameTest, afterADefeatNobodyFiresAndNoWaveEnds) {
 }
 
 
-TEST_F(GameTest, nobodyFiresOnTheTitleNorBetweenWaves) {
-    spill(1);
-    runSteps(2600);
-    spill(1);
-    EXPECT_EQ(mixer.sounds, Lines{"VorelDefense_WellDone on channel 8"});
+TEST_F(GameTest, theFirstTurretFiresIfTheWaterPaysForOneShot) {
+    runSteps(0);
+    game.addWeapon(turretAt(100, 100, 60));
+    game.addWeapon(turretAt(200, 100, 60));
+    game.shoot({300, 100});
+    EXPECT_EQ(frameLines("VorelDefence_projectile"),
+              Lines{"VorelDefence_projectile 100,100 109.6,100 109.6,109.6 100,109.6"});
+}
+
+
+TEST_F(GameTest, aJetHitsAGruntIfTheirDiscsOverlap) {
+    // As isColliding would say, but the step compares discs itself.
+    runSteps(51);
+    const Vecteur2D entry = game.spawnEnnemi();
+    for (const auto& [distance, heard] : {std::pair(30.0, Lines{}), {29.9, Lines{"WaterSplash"}}}) {
+        game.addWeapon(turretAt(entry[0] + distance, entry[1], 0));
+        game.shoot(entry);
+        mixer.sounds.clear();
+        game.update(0);
+        EXPECT_EQ(mixer.sounds, heard) << distance;
+    }
+}
+
+
+TEST_F(GameTest, anEncounterIsForgottenThoughItsReactionRaises) {
+    runSteps(51);
+    const Vecteur2D entry = game.spawnEnnemi();
+    game.addWeapon(turretAt(entry[0], entry[1], 0));
+    game.shoot({-100, 352});
+    mixer.onSound = []() -> int { throw std::runtime_error("This sound can't be played."); };
+    EXPECT_THROW(game.update(0), std::runtime_error);
+    mixer = {};
+    game.update(1);
+    EXPECT_EQ(mixer.sounds, Lines{}) << "the jet has flown on, and touches the grunt no more";
 }
 
 
@@ -115,16 +164,17 @@ TEST_F(GameTest, defeatIsJudgedBeforeTheWavesEnd) {
 }
 
 
-TEST_F(GameTest, coinsSoundOnlyWhenWaterDrains) {
-    // The drain begins 101 steps after the wave. Two coins sound less than thirty steps apart.
-    runSteps(2512 + 110);
-    const double water = pureWater();
-    ASSERT_LT(water, 90) << "the drain has begun";
-    mixer.sounds.clear();
-    for (int step = 0; step < 30; ++step)
-        game.update(0);
-    EXPECT_EQ(pureWater(), water);
-    EXPECT_EQ(mixer.sounds, Lines{});
+TEST_F(GameTest, theCashRegisterRingsThoughNothingIsPaid) {
+    // Within the time of grace the only grunt enters, the tank is emptied, and the grunt arrives in one long step.
+    runSteps(0);
+    game.update(1);
+    game.update(0);
+    spill(100);
+    game.update(50);
+    runSteps(300);
+    EXPECT_EQ(mixer.sounds, (Lines{"WaterStream", "VorelDefense_WellDone on channel 8", "CashRegister"}))
+        << "and no coins, since no water drains";
+    EXPECT_EQ(money(), 2000);
 }
 
 
@@ -158,4 +208,16 @@ TEST_F(GameTest, poserTourelleNeedsRoomAndMoney) {
         game.poserTourelle(x, y);
         EXPECT_EQ(money(), left) << what;
     }
+}
+
+
+TEST_F(GameTest, countersShowTheirLastDigits) {
+    for (int wave = 1; wave < 100; ++wave)
+        game.startNewWave();
+    screen.drawn.clear();
+    game.drawLoosScreen();
+    EXPECT_EQ(number(), "00") << "wave 100";
+    screen.drawn.clear();
+    drawDigits(loadTexture("Numbers", true), 1000000, 6, 10, 20);
+    EXPECT_EQ(number(), "000000") << "a million, with the six digits of the money counter";
 }

@@ -53,16 +53,19 @@ struct GameTest : StandinTest {
 
     double pureWater() const { return game.getTower().getPureWaterLeft(); }
 
-    /// What the money counter shows: six digits, the units first.
+    /// What the digits drawn last show, the units first: each its tenth of the picture of all ten.
+    static std::string number() {
+        std::string digits;
+        for (const std::string& line : linesStarting("Numbers", screen.drawn))
+            digits.insert(0, toString(std::lround(10 * partShown(line).real())));
+        return digits;
+    }
+
+    /// What the money counter shows.
     int money() const {
         screen.drawn.clear();
         game.afficherArgent(20);
-        int amount = 0;
-        for (int digit = 5; digit >= 0; --digit) {
-            const std::string& line = screen.drawn.at(digit);
-            amount = amount * 10 + static_cast<int>(std::lround(10 * std::stod(line.substr(line.find("part ") + 5))));
-        }
-        return amount;
+        return std::stoi(number());
     }
 };
 

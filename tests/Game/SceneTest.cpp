@@ -12,14 +12,6 @@ TEST_F(GameTest, theFieldIsDrawnBackToFront) {
 }
 
 
-TEST_F(GameTest, theRoundEndPanelShowsPieEarningsAndWave) {
-    // One tenth of the water is polluted: four of the forty slices, then the other thirty-six. One quarter of the pure
-    // water has drained into the earnings.
-    runSteps(2512 + 125);
-    expectAsRecorded("roundEnd", frameLines());
-}
-
-
 TEST_F(GameTest, anEmptyTankShowsNoRedBandInTheGauge) {
     runSteps(1);
     spill(100);

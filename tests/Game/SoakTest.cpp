@@ -1,5 +1,4 @@
 #include "Game/GameTest.h"
-#include "standin/standin.h"
 
 #include <cstdlib>
 #include <random>

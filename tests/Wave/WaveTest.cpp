@@ -9,14 +9,12 @@ struct WaveTest : StandinTest {
 };
 
 
-TEST_F(WaveTest, isFinishWhenAllHaveEnteredAndAreGone) {
-    for (const bool finished : {false, true}) {
-        wave.spawnEnnemi({100, 352});
-        EXPECT_FALSE(wave.isFinish());
-        wave.getEnnemisInGame().back().onCollideTower(nullptr);
-        EXPECT_EQ(wave.isFinish(), finished);
-    }
+TEST_F(WaveTest, spawnEnnemiReleasesAMixedRosterInItsOrder) {
+    wave.addEnnemi(Ennemi({0, 0}, 7, 10, 10, 20, 20, "weak grunt"), 1);
+    for (const double x : {1, 2, 3, 4})
+        wave.spawnEnnemi({x, 0});
+    std::string released;
+    for (Ennemi& grunt : wave.getEnnemisInGame())
+        released += joined(" at", grunt.getPos(), "with", grunt.getHealth());
+    EXPECT_EQ(released, " at 1 0 with 100 at 2 0 with 100 at 3 0 with 7");
 }
-
-
-TEST_F(WaveTest, getIdCountsEveryWave) { EXPECT_EQ(Wave(1).getId(), wave.getId() + 1); }

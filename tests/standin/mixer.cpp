@@ -1,5 +1,5 @@
 // Replaces the mixer. Every file can be loaded and every sound played, and nothing is heard. The audio device opens
-// unless a test says otherwise.
+// and channels are free unless a test says otherwise.
 
 #include "standin/standin.h"
 
@@ -31,7 +31,7 @@ int Mix_Volume(int channel, int volume) { return call("volume", channel, volume)
 int Mix_PlayChannelTimed(int channel, Mix_Chunk* chunk, int loops, int milliseconds) {
     const std::string how = loops == 0 && milliseconds == -1 ? "" : " repeated or cut";
     mixer.sounds.push_back(name(chunk) + (channel == -1 ? "" : joined(" on channel", channel)) + how);
-    return 0;
+    return mixer.onSound();
 }
 void Mix_FreeChunk(Mix_Chunk* chunk) { call("free", name(chunk)); }
 void Mix_FreeMusic(Mix_Music* music) { call("free", name(music)); }

@@ -1,14 +1,21 @@
-// Replaces OpenGL and GLU. Matrices, attributes and textures work like theirs, with one shortcut: a turn about any axis
-// but z = 1 shows as a wrong size. Everything drawn is recorded. No pixel is ever set; the pixels read back are those
-// of the last texture.
+// Replaces OpenGL and GLU. Matrices and textures work like theirs, with one shortcut: a turn about any axis but z = 1
+// shows as a wrong size. Everything drawn is recorded, lines and whatever is enabled but textures as calls, with
+// OpenGL's numbers. No pixel is ever set; the pixels read back are those of the last texture.
 
 #include "standin/standin.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <math.h>
 
 namespace {
+
+// A corner's place in the window, in pixels, and in its picture, from 0 to 1; and its colour, empty for opaque white.
+struct Vertex {
+    Point place, spot;
+    std::string colour;
+};
 
 // The open batch: its corners come first, before what longer batches left behind.
 GLenum shape = 0;
@@ -27,7 +34,7 @@ std::string text(const Point& point) { return " " + toString(point.real()) + ","
 // third corner is left over from the batch before.
 void draw(const Vertex* vertex, size_t count) {
     const Texture& texture = textures.at(screen.texture);
-    std::string line = screen.has(GL_TEXTURE_2D) ? texture.picture : "no texture";
+    std::string line = screen.isTextured ? texture.picture : "no texture";
     if (line == texture.picture && texture.made.find("mipmaps") == std::string::npos)
         line += " without mipmaps";
     std::string part;
@@ -37,46 +44,41 @@ void draw(const Vertex* vertex, size_t count) {
     }
     if (count != 4)
         line += " last of " + toString(count);
-    if (screen.has(GL_TEXTURE_2D) && part != " 0,0 1,0 1,1 0,1" && part != " 0,0 0,1 1,1 1,0")
+    if (screen.isTextured && part != " 0,0 1,0 1,1 0,1" && part != " 0,0 0,1 1,1 1,0")
         line += " part" + part;
     screen.drawn.push_back(line + vertex[count - 1].colour);
 }
 
-
-void drawLine(const Vertex& from, const Vertex& to) {
-    const auto end = [](const Vertex& vertex) { return text(vertex.place) + "," + toString(vertex.depth); };
-    screen.drawn.push_back("line" + end(from) + end(to) + " " + screen.lineStyle() + to.colour);
-}
-
 } // namespace
 
-std::string Screen::lineStyle() const {
-    const std::string blended = state.blendByAlpha ? " blended by alpha" : " blended";
-    return joined("width", state.lineWidth) + (has(GL_LINE_SMOOTH) ? " smooth" : "") + (has(GL_BLEND) ? blended : "") +
-           (has(GL_LIGHTING) ? " lit" : "") + (has(GL_TEXTURE_2D) ? " textured" : "");
+Point partShown(const std::string& line) {
+    double left = 0, low = 0;
+    const size_t part = line.find("part ");
+    if (part != std::string::npos)
+        std::sscanf(&line[part], "part %lf,%lf", &left, &low);
+    return {left, low};
 }
 
 extern "C" {
 
-void glEnable(GLenum what) { screen.state.enabled.insert(what); }
-void glDisable(GLenum what) { screen.state.enabled.erase(what); }
+static void enable(GLenum what, bool enabled) {
+    if (what == GL_TEXTURE_2D)
+        screen.isTextured = enabled;
+    else
+        call(enabled ? "enable" : "disable", what);
+}
+void glEnable(GLenum what) { enable(what, true); }
+void glDisable(GLenum what) { enable(what, false); }
 void glBindTexture(GLenum, GLuint texture) { screen.texture = texture; }
 void glColor4d(GLdouble r, GLdouble g, GLdouble b, GLdouble a) {
     const std::string name = joined(" colour", r, g, b, a);
-    screen.state.colour = name == " colour 1 1 1 1" ? "" : name;
+    screen.colour = name == " colour 1 1 1 1" ? "" : name;
 }
-void glColor3ub(GLubyte r, GLubyte g, GLubyte b) { glColor4d(r / 255., g / 255., b / 255., 1); }
-void glLineWidth(GLfloat width) { screen.state.lineWidth = width; }
-void glPushAttrib(GLbitfield groups) { screen.pushed.emplace_back(groups, screen.state); }
-void glPopAttrib() {
-    Attributes& state = screen.state;
-    const auto [groups, saved] = screen.pushed.back();
-    screen.pushed.pop_back();
-    state.enabled = (groups & GL_ENABLE_BIT) != 0 ? saved.enabled : state.enabled;
-    state.colour = (groups & GL_CURRENT_BIT) != 0 ? saved.colour : state.colour;
-    state.blendByAlpha = (groups & GL_COLOR_BUFFER_BIT) != 0 ? saved.blendByAlpha : state.blendByAlpha;
-    state.lineWidth = (groups & GL_LINE_BIT) != 0 ? saved.lineWidth : state.lineWidth;
-}
+void glColor3ub(GLubyte r, GLubyte g, GLubyte b) { call("colour", int(r), int(g), int(b)); }
+void glVertex3i(GLint x, GLint y, GLint z) { call(shape == GL_LINES ? "end of line" : "corner", x, y, z); }
+void glLineWidth(GLfloat width) { call("line width", width); }
+void glPushAttrib(GLbitfield groups) { call("push attributes", groups == GL_ALL_ATTRIB_BITS ? "all" : "some"); }
+void glPopAttrib() { call("pop attributes"); }
 
 void glBegin(GLenum mode) {
     shape = mode;
@@ -86,22 +88,14 @@ void glTexCoord2d(GLdouble s, GLdouble t) { spot = {s, t}; }
 void glVertex2d(GLdouble x, GLdouble y) {
     if (emitted == corners.size())
         corners.emplace_back();
-    corners[emitted] = {placeOf(x, y), spot, screen.state.colour, 0};
+    corners[emitted] = {placeOf(x, y), spot, screen.colour};
     emitted += 1;
 }
-void glVertex3i(GLint x, GLint y, GLint z) {
-    glVertex2d(x, y);
-    corners[emitted - 1].depth = z * screen.depthScale;
-}
 void glEnd() {
-    for (size_t first = 0; shape == GL_LINES && first < emitted; first += 2)
-        drawLine(corners[first], corners[first + 1]);
-    if (shape == GL_QUADS && emitted > 40) {
-        screen.longBatch.assign(corners.begin(), corners.begin() + emitted);
-        emitted = 4;
-    }
     const size_t count = shape == GL_QUADS ? 4 : emitted;
-    for (size_t first = 0; shape != GL_LINES && first < emitted; first += count)
+    if (emitted == 4 * 32 * 24 && !screen.drawsWholeGround)
+        emitted = count;
+    for (size_t first = 0; first < emitted; first += count)
         draw(&corners[first], count);
 }
 
@@ -114,7 +108,8 @@ void glLoadIdentity() {
 void glTranslated(GLdouble x, GLdouble y, GLdouble) { screen.matrices.back().second = placeOf(x, y); }
 void glScaled(GLdouble x, GLdouble y, GLdouble z) {
     screen.matrices.back().first *= x == y ? x : NAN;
-    screen.depthScale = z;
+    if (x == z)
+        call("scale all three axes", x);
 }
 void glRotated(GLdouble a, GLdouble, GLdouble, GLdouble z) {
     screen.matrices.back().first *= std::polar(z, a * M_PI / 180);
@@ -124,7 +119,7 @@ void glClear(GLbitfield) { screen.drawn.clear(); }
 void glMatrixMode(GLenum mode) { call(mode == GL_PROJECTION ? "projection" : "model"); }
 void gluOrtho2D(GLdouble left, GLdouble right, GLdouble low, GLdouble high) { call("ortho", left, right, low, high); }
 void glBlendFunc(GLenum from, GLenum to) {
-    screen.state.blendByAlpha = from == GL_SRC_ALPHA && to == GL_ONE_MINUS_SRC_ALPHA;
+    call("blend", from == GL_SRC_ALPHA && to == GL_ONE_MINUS_SRC_ALPHA ? "by alpha" : "otherwise");
 }
 void glFlush() {}
 

@@ -28,7 +28,8 @@ using Lines = std::vector<std::string>;
 /// The lines that begin with `start`.
 Lines linesStarting(const std::string& start, const Lines& lines);
 
-/// The calls to the window, the mixer and the projection, in the order in which they came: "volume 8 50".
+/// The calls to the window, the mixer, the projection and whatever draws lines, in the order in which they came:
+/// "volume 8 50".
 inline Lines calls;
 
 /// A name and values, with a space before each value.
@@ -36,9 +37,6 @@ template <typename... Values>
 std::string joined(const std::string& name, const Values&... values) {
     return (name + ... + (" " + toString(values)));
 }
-
-/// The text of an operation, and what it gives.
-#define SHOW(operation) joined(#operation, "gives", operation)
 
 /// Records a call. The answer is 0, which says that all went well.
 template <typename... Values>
@@ -49,52 +47,31 @@ int call(const std::string& name, const Values&... values) {
 
 using Point = std::complex<double>;
 
-/// A corner's place in the window, in pixels, and in its picture, from 0 to 1; its colour, empty for opaque white; and
-/// its distance from the plane.
-struct Vertex {
-    Point place, spot;
-    std::string colour;
-    double depth;
-};
-
-/// The part of OpenGL's state that drawAxis saves, changes and restores.
-struct Attributes {
-    std::set<GLenum> enabled;
-    std::string colour;
-    bool blendByAlpha = false;
-    GLfloat lineWidth = 1;
-};
-
 /// opengl.cpp
 inline struct Screen {
     /// What was drawn since the last clear, one entry for each quad: its picture, with a remark if that has no mipmaps;
     /// its four corners; the corners of the part of the picture that it shows, unless that is all of it; and the
     /// colour, unless it is opaque white: "TurretIcon_64 256,288 320,288 320,352 256,352 colour 1 1 1 0.4". Other
-    /// shapes have their first three corners and the last; a line has its two ends and its style.
+    /// shapes have their first three corners and the last.
     Lines drawn;
-    /// The last batch of more than ten quads; `drawn` has only its first quad.
-    std::vector<Vertex> longBatch;
+    /// Whether all quads of the ground are drawn, or only its first one.
+    bool drawsWholeGround = false;
     /// The pixels of the last texture made, row by row from the bottom. The window shows them too.
     std::vector<Uint8> texels;
     /// Its left and lower edge, its width and its height.
     std::array<GLint, 4> viewport{3, 5, 1, 2};
     GLuint texture = 0;
-    Attributes state;
-    /// The groups of attributes that were pushed, each with the state at that time.
-    std::vector<std::pair<GLbitfield, Attributes>> pushed;
+    bool isTextured = false;
+    std::string colour;
     /// A matrix puts a point p at first * p + second: the game turns, moves and enlarges, but never stretches.
     std::vector<std::pair<Point, Point>> matrices{{1, 0}};
-    /// How the last scaling enlarged depths. Only the axes have any.
-    double depthScale = 1;
 
-    bool has(GLenum ability) const { return state.enabled.count(ability) != 0; }
-    /// How a line would be drawn, apart from its colour: "width 2 smooth blended by alpha".
-    std::string lineStyle() const;
     /// The state in which every drawing routine must leave it.
-    bool isAtRest() const {
-        return !has(GL_TEXTURE_2D) && texture == 0 && state.colour.empty() && pushed.empty() && matrices.size() == 1;
-    }
+    bool isAtRest() const { return !isTextured && texture == 0 && colour.empty() && matrices.size() == 1; }
 } screen;
+
+/// The left and lower edge of the part of its picture that a line of Screen::drawn shows.
+Point partShown(const std::string& line);
 
 struct Texture {
     /// The last file opened before it was made, without folder and extension.
@@ -112,6 +89,8 @@ inline struct Mixer {
     Lines sounds;
     /// The answer to opening the audio device; -1 is a failure.
     int deviceAnswer = 0;
+    /// Answers each sound with the channel that plays it; -1 is none.
+    std::function<int()> onSound = [] { return 0; };
 } mixer;
 
 /// window.cpp. Places are in pixels from the lower-left corner, as the game counts them.
