@@ -7,7 +7,6 @@ extern "C" int SDL_main(int argc, char** argv);
 using Story = std::vector<std::pair<std::string, int>>;
 
 struct MainLoop : StandinTest {
-    static constexpr Uint8 BUTTONS[] = {SDL_BUTTON_LEFT, SDL_BUTTON_MIDDLE, SDL_BUTTON_RIGHT, SDL_BUTTON_WHEELUP};
     const Place SHOP{992, 600}, FIELD{200, 568}, NEAR_FIELD{250, 600}, FAR_AWAY{900, 700}, TOWER{512, 352};
     const std::string MUSIC = ", fade in Tundrix_Dubstep_RMX_v1 -1 3000 0", BUILT = ", TurretConstruction",
                       SHOT = ", WaterStream", PAUSE = "PauseButton_64 480,352 544,352 544,416 480,416";
@@ -92,24 +91,21 @@ TEST_F(MainLoop, escapeQuits) { EXPECT_EQ(runSession({key(SDLK_ESCAPE), frames(1
 
 TEST_F(MainLoop, theShopSellsATurretForEachChoiceOfAPlace) {
     // Two turrets take all the money. In the second wave, which was paid for the first, they empty the tower.
+    // clang-format off
     const std::tuple<const char*, unsigned, std::vector<Action>> cases[] = {
         {"a click on the button is for one turret", 1, {click(SHOP), click(FIELD), click(FAR_AWAY)}},
         {"another click on it lets go", 0, {click(SHOP), click(SHOP), click(FIELD)}},
         {"a refused place lets go too", 0, {click(SHOP), click(TOWER), click(FIELD)}},
-        {"only the left button reaches it",
-         0,
-         {click(SHOP, SDL_BUTTON_MIDDLE), click(SHOP, SDL_BUTTON_RIGHT), click(SHOP, SDL_BUTTON_WHEELUP),
-          click(FIELD)}},
+        {"only the left button reaches it", 0, {click(SHOP, SDL_BUTTON_MIDDLE), click(SHOP, SDL_BUTTON_RIGHT),
+                                                click(SHOP, SDL_BUTTON_WHEELUP), click(FIELD)}},
         {"held to fire", 0, {press(FAR_AWAY), press(SHOP), release(SDL_BUTTON_LEFT), click(FIELD)}},
-        {"held across a restart",
-         0,
-         {press(FAR_AWAY), key(SDLK_r), press(SHOP), release(SDL_BUTTON_LEFT), click(FIELD)}},
+        {"held across a restart", 0, {press(FAR_AWAY), key(SDLK_r), press(SHOP), release(SDL_BUTTON_LEFT), click(FIELD)}},
         {"in a pause", 1, {key(SDLK_a), frames(1), key(SDLK_SPACE), click(SHOP), click(FIELD)}},
         {"between waves", 1, {key(SDLK_a), frames(2513), click(SHOP), click(FIELD)}},
-        {"after a defeat",
-         3,
-         {click(SHOP), click(FIELD), click(SHOP), click({300, 568}), frames(2513), click(FAR_AWAY), frames(750),
-          press(NEAR_FIELD), frames(2600), release(SDL_BUTTON_LEFT), click(SHOP), click({640, 352})}}};
+        {"after a defeat", 3, {click(SHOP), click(FIELD), click(SHOP), click({300, 568}), frames(2513), click(FAR_AWAY),
+                               frames(750), press(NEAR_FIELD), frames(2600), release(SDL_BUTTON_LEFT),
+                               click(SHOP), click({640, 352})}}};
+    // clang-format on
     for (const auto& [when, turrets, session] : cases) {
         runSession(session);
         EXPECT_EQ(linesStarting("WaterTurret", screen.drawn).size(), turrets) << when;
@@ -154,7 +150,7 @@ TEST_F(MainLoop, aHeldLeftButtonFiresWhereTheMouseIs) {
 
 
 TEST_F(MainLoop, anyButtonThatIsReleasedEndsTheFire) {
-    for (const Uint8 button : BUTTONS)
+    for (const Uint8 button : {SDL_BUTTON_LEFT, SDL_BUTTON_MIDDLE, SDL_BUTTON_RIGHT, SDL_BUTTON_WHEELUP})
         EXPECT_EQ(runSession({click(SHOP), click(FIELD), press(NEAR_FIELD), frames(1), release(button), frames(60)}),
                   (Story{{"field" + MUSIC + BUILT + SHOT, 1}, {"field", 61}}))
             << joined("button", int(button));

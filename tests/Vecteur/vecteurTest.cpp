@@ -3,8 +3,6 @@
 
 #include "standin/standin.h"
 
-#include <cmath>
-
 static const Vecteur abc{1, 2, 3}, def{4, 5, 6}, two{3, 4};
 
 // What an operation raises: its name, its text, and in that the line where it was raised.
@@ -80,11 +78,4 @@ TEST(Vecteur2D, getAngleIsTheHeadingInDegrees) {
         EXPECT_EQ(vector.getAngle(), angle) << vector;
         EXPECT_EQ(Vecteur2D::normaliserAngle(angle - 720), normalised) << "two turns less";
     }
-}
-
-
-TEST(Vecteur2D, setFormPolarTakesALengthAndRadians) {
-    Vecteur2D vector;
-    vector.setFormPolar(2, Vecteur2D::PI / 6);
-    EXPECT_NEAR(vector.distance({std::sqrt(3.0), 1}), 0, 1e-12);
 }
