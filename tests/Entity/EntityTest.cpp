@@ -93,11 +93,6 @@ TEST_F(Combat, aJetFliesToTheEndOfItsRange) {
 }
 
 
-TEST_F(Combat, aJetTurnsToWhereItFlies) {
-    EXPECT_EQ(drawnBy(jet), Lines{"VorelDefence_projectile 110,100 110,109.6 100.4,109.6 100.4,100"}) << "upwards";
-}
-
-
 TEST_F(Combat, aGruntFacesTheTower) {
     // Each place of a grunt, and the lower edge of the row of pictures that shows it there: around the tower and on it,
     // on the diagonals, and half a degree to both sides of each.

@@ -27,6 +27,8 @@ TEST_F(GameTest, aRestartedGameGoesLikeANewOne) {
                 seen->push_back(testing::PrintToString(frameLines()));
             }
             game.activeTourelle();
+            game.startNewWave();
+            runSteps(60);
             game.restart();
         }
         EXPECT_EQ(newGame, restarted) << spilled;

@@ -1,4 +1,5 @@
 // The only header of the game: whoever calculates with vectors can catch their errors without naming another.
+// NOLINTBEGIN(misc-include-cleaner)
 #include "Vecteur/Vecteur2D.h"
 
 #include "standin/standin.h"
@@ -79,3 +80,4 @@ TEST(Vecteur2D, getAngleIsTheHeadingInDegrees) {
         EXPECT_EQ(Vecteur2D::normaliserAngle(angle - 720), normalised) << "two turns less";
     }
 }
+// NOLINTEND(misc-include-cleaner)
