@@ -71,7 +71,7 @@ def in_window(program, seconds):
 
 
 def in_browser(page, seconds):
-    sys.path.append("web")
+    sys.path.append("web/tests")
     from chromium import Chromium  # needs more packages than a player of the program has
     from server import Server
     with Server(page) as server, Chromium() as browser:

@@ -8,7 +8,7 @@ import os
 import statistics
 import sys
 
-sys.path[:0] = ["tools", "web"]
+sys.path[:0] = ["tools", "web/tests"]
 from chromium import Chromium
 from server import Server
 from window import Window

@@ -11,7 +11,7 @@ import sys
 import tempfile
 import time
 
-sys.path[:0] = ["tools", "web"]
+sys.path[:0] = ["tools", "web/tests"]
 from player import AIM, CTRL, LEFT, PLACE, RIGHT, SHOP, Page
 from server import Server
 from visitor import Refusal, require

@@ -8,7 +8,7 @@ Leaves pictures of both in the directory.
 import os
 import sys
 
-sys.path[:0] = ["tools", "web"]
+sys.path[:0] = ["tools", "web/tests"]
 from chromium import BAR, Chromium
 from player import SHOT_SECONDS
 from server import Server

@@ -8,7 +8,7 @@ Leaves pictures of it in the directory.
 import os
 import sys
 
-sys.path[:0] = ["tools", "web"]
+sys.path[:0] = ["tools", "web/tests"]
 from firefox import Firefox
 from server import Server
 from watch import COMPLAINTS, EARS
