@@ -29,7 +29,7 @@
   start.hidden = false;
   progress.hidden = false;
   script.type = 'module';
-  script.src = 'page.js?@BUILD@';
+  script.src = 'page.js';
   script.onerror = function () {
     say('The page did not load completely: one of its scripts is missing.');
     start.hidden = false;

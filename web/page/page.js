@@ -1,6 +1,6 @@
 // The page around the game: loads its files, starts it on a click, lets it rest, and says what has gone wrong.
 
-import * as sound from './sound.js?@BUILD@';
+import * as sound from './sound.js';
 
 const element = id => document.getElementById(id);
 const [canvas, front, bar, message, progress, start, rest] =
@@ -8,7 +8,6 @@ const [canvas, front, bar, message, progress, start, rest] =
 
 // before: the files to load before the start, with their bytes; sounds: those to load afterwards
 const files = JSON.parse(element('files').textContent);
-const build = new URL(import.meta.url).search;
 const arrived = {}; // file: bytes
 const images = {}; // by the paths that the game uses
 const pictures = {}; // the same in the form that the program takes
@@ -17,10 +16,6 @@ let gl;
 let sharpness;
 let game; // the program that runs
 let state = 'front'; // then 'starting', 'playing' and 'resting', and 'front' again; 'broken' is final
-
-
-// Each build of the game has its own addresses, so that files of two builds are never mixed.
-const address = path => path + build;
 
 // A browser may refuse a request; then everything stays as it is.
 const nevermind = () => {};
@@ -77,7 +72,7 @@ function arrive(file, bytes) {
 
 
 async function fetchBytes(file) {
-  const response = await fetch(address(file));
+  const response = await fetch(file);
   if (!response.ok)
     throw new Error(`the server answered ${response.status}`);
   const reader = response.body.getReader();
@@ -102,7 +97,7 @@ async function picture(blob) {
 function script(file) {
   return new Promise((resolve, reject) => {
     const code = document.createElement('script');
-    code.src = address(file);
+    code.src = file;
     code.onload = () => resolve(arrive(file, files.before[file]));
     code.onerror = () => reject(new Error('no script was found'));
     document.head.append(code);
