@@ -157,11 +157,11 @@ async function loadAll() {
 }
 
 
-// One after another. A sound that does not arrive is not heard, and is asked for again with the next game.
+// One after another; sent as FLAC, which is smaller. A sound that does not arrive is not heard, and is asked for again with the next game.
 async function loadSounds() {
   for (const file of files.sounds.splice(0))
     try {
-      await sound.add(file, await (await fetchBytes(file)).arrayBuffer());
+      await sound.add(file.replace(/\.flac$/, ''), await (await fetchBytes(file)).arrayBuffer());
     } catch (error) {
       files.sounds.push(file);
       console.warn(`${file} will not be heard: ${error.message}`);
