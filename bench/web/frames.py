@@ -16,28 +16,28 @@ from window import Window
 # Counts frames, by the call that begins each, and keeps what the last whole one drew.
 COUNT = """
 window.frames_ = 0;
-const of = WebGLRenderingContext.prototype;
+const of = WebGL2RenderingContext.prototype;
 const wrap = (name, before) => {
   const own = of[name];
   of[name] = function (...given) { before(this, ...given); return own.apply(this, given); };
 };
-const seen = window.seen = {last: null, corners: null, indices: null, batches: [], sizes: new Map(), bound: null, recording: false};
+const seen = window.seen = {last: null, corners: null, batches: [], sizes: new Map(), bound: null, recording: false};
 wrap('clear', () => {
   if (seen.recording && seen.batches.length)
-    seen.last = {corners: seen.corners, indices: seen.indices, batches: seen.batches};
+    seen.last = {corners: seen.corners, batches: seen.batches};
   seen.batches = [];
   ++window.frames_;
 });
 wrap('bindTexture', (gl, target, texture) => seen.bound = texture);
-wrap('texImage2D', (gl, target, level, format, width, height) => {
-  if (level === 0 && typeof height === 'number')
-    seen.sizes.set(seen.bound, {texture: seen.sizes.size, width, height});
+wrap('texImage2D', (gl, target, level, internal, ...given) => {
+  const [width, height] = given.length > 3 ? given : [given[2].naturalWidth, given[2].naturalHeight];
+  seen.sizes.set(seen.bound, {texture: seen.sizes.size, width, height});
 });
 wrap('bufferData', (gl, target, data) => {
   if (seen.recording)
-    seen[target === gl.ARRAY_BUFFER ? 'corners' : 'indices'] = Array.from(data);
+    seen.corners = Array.from(data);
 });
-wrap('drawElements', (gl, mode, count) => {
+wrap('drawArrays', (gl, mode, first, count) => {
   if (seen.recording)
     seen.batches.push({...seen.sizes.get(seen.bound), count});
 });

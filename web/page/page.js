@@ -1,5 +1,7 @@
 // The page around the game: loads its files, starts it on a click, lets it rest, and says what has gone wrong.
 
+import * as graphics from './graphics.js';
+import * as program from './program.js';
 import * as sound from './sound.js';
 
 const element = id => document.getElementById(id);
@@ -10,11 +12,8 @@ const [canvas, front, bar, message, progress, start, rest] =
 const files = JSON.parse(element('files').textContent);
 const arrived = {}; // file: bytes
 const images = {}; // by the paths that the game uses
-const pictures = {}; // the same in the form that the program takes
-let program; // compiled
-let gl;
-let sharpness;
-let game; // the program that runs
+let compiled; // the program
+let isOpen = false; // the canvas
 let state = 'front'; // then 'starting', 'playing' and 'resting', and 'front' again; 'broken' is final
 
 // A browser may refuse a request; then everything stays as it is.
@@ -43,9 +42,10 @@ function offer(words, button, action) {
 function breakOff(words) {
   if (state === 'broken')
     return;
+  if (state === 'playing' || state === 'resting')
+    program.halt();
   state = 'broken';
-  game?.halt?.();
-  sound.rest();
+  sound.suspend();
   rest.close();
   offer(words, 'Load again', () => location.reload());
 }
@@ -58,7 +58,7 @@ function graphicsLost() {
 
 function fail(error) {
   // Whatever fails then fails because of that.
-  if (gl?.isContextLost())
+  if (graphics.isLost())
     graphicsLost();
   breakOff('The game stopped, and that is a fault of ours. ' +
     `Version ${element('version').textContent} reports: ${error?.message || error}`);
@@ -94,25 +94,12 @@ async function picture(blob) {
 }
 
 
-function script(file) {
-  return new Promise((resolve, reject) => {
-    const code = document.createElement('script');
-    code.src = file;
-    code.onload = () => resolve(arrive(file, files.before[file]));
-    code.onerror = () => reject(new Error('no script was found'));
-    document.head.append(code);
-  });
-}
-
-
 // Pictures are sent as WebP, which is smaller; the game knows them without that extension.
 async function load(file) {
   const place = file.replace(/\.webp$/, '');
   try {
-    if (file.endsWith('.js'))
-      await script(file);
-    else if (file.endsWith('.wasm'))
-      program = await WebAssembly.compile(await (await fetchBytes(file)).arrayBuffer());
+    if (file.endsWith('.wasm'))
+      compiled = await WebAssembly.compile(await (await fetchBytes(file)).arrayBuffer());
     else
       images[place] = await picture(await fetchBytes(file));
   } catch (error) {
@@ -169,58 +156,22 @@ async function loadSounds() {
 }
 
 
-// The game draws every frame completely, so nothing behind the canvas shows through.
-function openCanvas() {
-  const options = {alpha: false, antialias: false, depth: false, stencil: false};
-  // The pictures have two pixels for each of the game's, so more would show nothing new. Without a graphics card every
-  // pixel is expensive.
-  gl = canvas.getContext('webgl', {...options, failIfMajorPerformanceCaveat: true});
-  sharpness = gl ? 2 : 1;
-  gl = gl || canvas.getContext('webgl', options);
-  canvas.addEventListener('webglcontextlost', graphicsLost);
-}
-
-
-// WebGL returns the pixels as they are in the file, in every browser; a 2-D canvas would lose the colours of transparent
-// ones. Goes one
-// picture at a time, because the browser may have to decode it again.
-async function readPictures() {
-  const texture = gl.createTexture();
-  const frame = gl.createFramebuffer();
-  for (const [place, image] of Object.entries(images)) {
-    const {naturalWidth: width, naturalHeight: height} = image;
-    const pixels = new Uint8Array(width * height * 4);
-    gl.bindTexture(gl.TEXTURE_2D, texture);
-    gl.pixelStorei(gl.UNPACK_COLORSPACE_CONVERSION_WEBGL, gl.NONE);
-    gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, gl.RGBA, gl.UNSIGNED_BYTE, image);
-    gl.bindFramebuffer(gl.FRAMEBUFFER, frame);
-    gl.framebufferTexture2D(gl.FRAMEBUFFER, gl.COLOR_ATTACHMENT0, gl.TEXTURE_2D, texture, 0);
-    gl.readPixels(0, 0, width, height, gl.RGBA, gl.UNSIGNED_BYTE, pixels);
-    pictures[place] = {width, height, pixels};
-    delete images[place];
-    await wait();
-  }
-  gl.bindFramebuffer(gl.FRAMEBUFFER, null);
-  gl.deleteFramebuffer(frame);
-  gl.deleteTexture(texture);
-}
-
-
 async function play() {
   state = 'starting';
   start.disabled = true;
   start.textContent = 'Starting…';
   try {
     sound.open();
-    sound.wake();
     await wait();
-    if (!gl)
-      openCanvas();
-    if (!gl) {
-      breakOff('This browser offers no WebGL, which the game needs. It may be switched off in the browser\'s settings.');
+    if (!isOpen && !graphics.open(canvas)) {
+      breakOff('This browser offers no WebGL 2, which the game needs. It may be switched off in the browser\'s settings.');
       return;
     }
-    await readPictures();
+    if (!isOpen) {
+      isOpen = true;
+      canvas.addEventListener('webglcontextlost', graphicsLost);
+      await graphics.makeTextures(images);
+    }
     if (state === 'starting')
       await run();
   } catch (error) {
@@ -230,15 +181,10 @@ async function play() {
 
 
 function run() {
-  game = {
-    gl, sharpness, pictures, sound,
-    instantiateWasm(imports, ready) {
-      WebAssembly.instantiate(program, imports).then(instance => ready(instance, program)).catch(fail);
-      return {};
-    },
+  return program.start(compiled, canvas, {
     shown() {
       if (state === 'broken') {
-        game.halt();
+        program.halt();
         return;
       }
       state = 'playing';
@@ -254,11 +200,10 @@ function run() {
       if (state === 'broken')
         return;
       state = 'front';
-      sound.rest();
+      sound.suspend();
       offer('Thank you for playing.', 'Play again', play);
     }
-  };
-  return VorelDefense(game);
+  });
 }
 
 
@@ -267,8 +212,8 @@ function takeRest(words = 'The game is waiting for you.', mayRestart = false) {
   if (state !== 'playing')
     return;
   state = 'resting';
-  game.rest();
-  sound.rest();
+  program.suspend();
+  sound.suspend();
   element('restWords').textContent = words;
   element('again').hidden = !mayRestart;
   rest.showModal();
@@ -280,8 +225,8 @@ function goOn() {
     return;
   state = 'playing';
   rest.close();
-  game.goOn();
-  sound.wake();
+  program.resume();
+  sound.open();
   canvas.focus({preventScroll: true});
 }
 
@@ -310,7 +255,7 @@ function onPress(id, action) {
 
 const toggle = (button, on) => button.setAttribute('aria-pressed', on);
 
-onPress('pause', () => game.press(' '));
+onPress('pause', () => program.press(' '));
 // It is beside the other buttons, and a slip would cost the whole game.
 onPress('restart', () => takeRest('Leave this game and start again?', true));
 onPress('sound', button => {
@@ -325,10 +270,15 @@ element('full').hidden = !document.fullscreenEnabled;
 element('goOn').addEventListener('click', goOn);
 element('again').addEventListener('click', () => {
   goOn();
-  game.press('r');
+  program.press('r');
 });
 rest.addEventListener('close', goOn);
 document.addEventListener('visibilitychange', () => document.hidden && takeRest());
+
+window.addEventListener('keydown', event => {
+  if (state === 'playing' && event.key === 'Escape' && !document.fullscreenElement)
+    program.press('\x1b');
+});
 
 // A phone call takes the sound away; the next press brings it back.
 for (const press of ['pointerup', 'click', 'keydown'])

@@ -1,18 +1,18 @@
-// All sound. The page opens it, wakes it and lets it rest; the program says what to play. Volumes are from 0 to 1, and
-// places of files are the paths that the game uses.
+// All sound. The page opens and suspends it; the program says what to play. Volumes are from 0 to 1, and places of files
+// are the paths that the game uses.
 
 const NAME = 'vorel-defense.sound'; // under this name the browser remembers whether the player wants sound
-const build = new URL(import.meta.url).search;
 
 const sounds = new Map(); // place: decoded sound
-let channels = []; // {volume: its gain node, source: what it plays or played last, end: when that ends}
-let context; // none before the first press, nor in a browser that can't open sound: then the game is silent
+let channels = []; // {volume, source: what it plays or played last, end: when that ends}
+let track = {place: '', seconds: 0}; // the music that the game wants, if any, and where it is when it does not play
+let musicVolume = 1;
+
+// Only while sound is open; there is none in a browser that can't open it, and then the game is silent.
+let context;
 let speaker; // the node that all sound goes to
 let music; // the one player of all music
 let musicNode;
-let musicVolume = 1;
-let playing = false; // whether the game wants music to play
-let awake = false;
 
 
 // A browser may refuse to store anything; then it throws an error.
@@ -34,8 +34,11 @@ export function isOn() {
 
 export function setOn(on) {
   off = !on;
-  if (speaker)
+  if (context) {
     speaker.gain.value = off ? 0 : 1;
+    stopMusic();
+    startMusic();
+  }
   try {
     localStorage.setItem(NAME, on ? 'on' : 'off');
   } catch {
@@ -45,29 +48,42 @@ export function setOn(on) {
 
 
 // A browser lets a page make sound only after a press, and some browsers allow only what exists at that moment. So this
-// is called in response to a press, and opens everything at once.
+// is called in response to a press, and opens everything at once. What was open before is given up: after a rest or a
+// call, some phones never bring it back, and don't say so.
 export function open() {
-  if (context)
-    return;
+  suspend();
   // The game plays alongside what the player listens to, and the switch on a phone's side silences it.
   if (navigator.audioSession)
     navigator.audioSession.type = 'ambient';
   try {
     context = new AudioContext();
-    speaker = context.createGain();
-    speaker.gain.value = off ? 0 : 1;
+    speaker = new GainNode(context, {gain: off ? 0 : 1});
     speaker.connect(context.destination);
+    musicNode = new GainNode(context, {gain: musicVolume});
+    musicNode.connect(speaker);
+    // A player stays with the context that it was connected to.
     music = new Audio();
+    music.crossOrigin = 'anonymous'; // in a sandbox every file is another origin's, and silent if it is not asked for so
     music.loop = true;
     music.load();
-    musicNode = context.createGain();
-    musicNode.connect(speaker);
     context.createMediaElementSource(music).connect(musicNode);
-    context.onstatechange = () => awake && wake();
+    wake();
   } catch (error) {
     context = undefined;
     console.warn(`Nothing can be heard: ${error.message}`);
   }
+}
+
+
+// Nothing is heard until sound is opened again. The music will go on from where it is.
+export function suspend() {
+  if (!context)
+    return;
+  stopMusic();
+  ask(context.close());
+  context = undefined;
+  for (const channel of channels)
+    Object.assign(channel, {source: null, end: 0});
 }
 
 
@@ -80,28 +96,37 @@ function ask(promise) {
 }
 
 
-// Called at every press, because a phone call or another program may have taken the sound away. An interrupted context
-// is suspended when the interruption is over. It must not be resumed before: its clock would stand still.
+// Called at every press, because another program may have taken the sound away, or the line the music.
 export function wake() {
-  awake = true;
   if (!context)
     return;
-  if (context.state === 'suspended')
+  if (context.state !== 'running')
     ask(context.resume());
-  // The line may have broken while the music was on its way.
-  if (playing && music.error?.code === MediaError.MEDIA_ERR_NETWORK)
-    music.load();
-  if (playing && music.paused && !music.error)
+  startMusic();
+}
+
+
+// Music that nobody wants to hear is not fetched.
+function startMusic() {
+  if (!track.place || off)
+    return;
+  if (!music.getAttribute('src') || music.error) {
+    stopMusic();
+    music.src = track.place;
+    music.currentTime = track.seconds;
+  }
+  if (music.paused)
     ask(music.play());
 }
 
 
-export function rest() {
-  awake = false;
-  if (!context)
-    return;
-  ask(context.suspend());
+// Ends its request too.
+function stopMusic() {
+  if (music.getAttribute('src'))
+    track.seconds = music.currentTime;
   music.pause();
+  music.removeAttribute('src');
+  music.load();
 }
 
 
@@ -112,37 +137,30 @@ export async function add(place, bytes) {
 
 
 export function setChannels(count) {
-  if (!context)
-    return;
-  channels = Array.from({length: count}, () => {
-    const volume = context.createGain();
-    volume.connect(speaker);
-    return {volume, source: null, end: 0};
-  });
+  channels = Array.from({length: count}, () => ({volume: 1, source: null, end: 0}));
 }
 
 
+// Of what the channel plays from now on.
 export function setChannelVolume(channel, volume) {
-  if (context)
-    channels[channel].volume.gain.value = volume;
+  channels[channel].volume = volume;
 }
 
 
 // Plays a sound on the given channel, or on the first free one for -1; returns the channel, -1 if there is none.
 export function play(wanted, place) {
-  if (!context)
-    return -1;
   const sound = sounds.get(place);
-  const now = context.currentTime;
-  const number = wanted < 0 ? channels.findIndex(channel => channel.end <= now) : wanted;
   // A sound that can't be heard now is dropped; otherwise all of them would play at once later.
-  if (!sound || number < 0 || context.state !== 'running')
+  if (!sound || context?.state !== 'running')
+    return -1;
+  const now = context.currentTime;
+  const number = wanted < 0 ? channels.findIndex(({end}) => end <= now) : wanted;
+  if (number < 0)
     return -1;
   const channel = channels[number];
   channel.source?.stop();
-  channel.source = context.createBufferSource();
-  channel.source.buffer = sound;
-  channel.source.connect(channel.volume);
+  channel.source = new AudioBufferSourceNode(context, {buffer: sound});
+  channel.source.connect(new GainNode(context, {gain: channel.volume})).connect(speaker);
   channel.source.start();
   channel.end = now + sound.duration;
   return number;
@@ -151,13 +169,13 @@ export function play(wanted, place) {
 
 // Plays a piece of music in a loop from its beginning; it fades in for `fadeIn` seconds.
 export function playMusic(place, fadeIn) {
-  if (!context)
-    return;
-  music.src = place + build;
-  playing = true;
-  fadeMusic(fadeIn);
-  if (awake)
-    wake();
+  if (context)
+    stopMusic();
+  track = {place, seconds: 0};
+  if (context) {
+    fadeMusic(fadeIn);
+    startMusic();
+  }
 }
 
 
@@ -179,11 +197,10 @@ function fadeMusic(seconds) {
 
 // Ends all sounds and music.
 export function silence() {
-  for (const {source, volume} of channels) {
+  for (const {source} of channels)
     source?.stop();
-    volume.disconnect();
-  }
   channels = [];
-  playing = false;
-  music?.pause();
+  if (context)
+    stopMusic();
+  track.place = '';
 }

@@ -1,5 +1,6 @@
-// Stands in for OpenGL 1.x and GLU, which browsers don't have. Collects what the game draws as triangles and passes a
-// whole frame at a time to WebGL, so that a frame costs one upload and one call for each change of picture.
+// Stands in for OpenGL 1.x and GLU, which browsers don't have; Emscripten's own emulation of them has no coordinates of
+// type double, no GL_POLYGON and no gluBuild2DMipmaps. Collects what the game draws as triangles and passes a whole
+// frame at a time to WebGL, so that a frame costs one upload and one call for each change of picture.
 
 #include "port.h"
 
@@ -28,23 +29,19 @@ Plane combined(const Plane& then, const Plane& first) {
 }
 
 
-// Corners are numbered with 16 bits, the widest numbers that every WebGL takes.
-constexpr std::size_t MOST_CORNERS = 65536;
-
 std::vector<Plane> modelview(1);
 std::vector<Plane> projection(1);
 std::vector<Plane>* current = &modelview;
 
 bool visible = true;
 bool texturing = false;
-unsigned boundTexture = 0;
-unsigned lastTexture = 0;
+std::vector<unsigned> pictures(1); // the number of each texture's picture; texture 0 shows none
+GLuint boundTexture = 0;
 Corner corner{0, 0, 0, 0, {255, 255, 255, 255}};
 GLenum shape = GL_QUADS;
-std::size_t shapeBegin = 0;
+std::vector<Corner> shapeCorners;
 
-std::vector<Corner> corners;
-std::vector<std::uint16_t> indices;
+std::vector<Corner> triangles;
 std::vector<Batch> batches;
 
 
@@ -56,82 +53,30 @@ std::uint8_t colourPart(double part) {
 }
 
 
-// Draws the shapes between two corners as triangles around the first of each.
-void addFans(std::size_t begin, std::size_t end, std::size_t size) {
-    const unsigned texture = texturing ? boundTexture : 0;
-    if (batches.empty() || batches.back().texture != texture)
-        batches.push_back({texture, 0});
-    const std::size_t before = indices.size();
-    for (std::size_t first = begin; first + size <= end; first += size)
+// Adds the current shapes, of `size` corners each, as triangles around the first of each.
+void addFans(std::size_t size) {
+    const unsigned picture = texturing ? pictures[boundTexture] : 0;
+    if (batches.empty() || batches.back().picture != picture)
+        batches.push_back({picture, 0});
+    const std::size_t before = triangles.size();
+    for (std::size_t first = 0; first + size <= shapeCorners.size(); first += size)
         for (std::size_t i = first + 2; i < first + size; ++i)
-            for (const std::size_t index : {first, i - 1, i})
-                indices.push_back(static_cast<std::uint16_t>(index));
-    batches.back().indices += indices.size() - before;
+            for (const std::size_t vertex : {first, i - 1, i})
+                triangles.push_back(shapeCorners[vertex]);
+    batches.back().corners += triangles.size() - before;
 }
 
 
-// WebGL 1 makes mipmaps only of pictures whose sides are powers of two. GLU rounds the same way.
-int nearestPowerOfTwo(int side) {
-    int power = 1;
-    for (; side > 1 && side != 3; side /= 2)
-        power *= 2;
-    return side == 3 ? power * 4 : power;
-}
-
-
-// Resizes in one direction: each new pixel is the mean of the old ones under it. `step` and `line` are the distances in
-// bytes between pixels and between lines, in the old picture and in the new one.
-struct Run {
-    int pixels, step, line;
-};
-void resample(const std::uint8_t* from, Run old, std::uint8_t* to, Run now, int lines) {
-    const double ratio = 1.0 * old.pixels / now.pixels;
-    for (int i = 0; i < now.pixels; ++i) {
-        const double begin = i * ratio;
-        const double end = begin + ratio;
-        for (int line = 0; line < lines; ++line)
-            for (int part = 0; part < 4; ++part) {
-                double sum = 0.0;
-                for (int j = static_cast<int>(begin); j < std::min<double>(old.pixels, end); ++j)
-                    sum += (std::min(j + 1.0, end) - std::max<double>(j, begin)) *
-                           from[line * old.line + j * old.step + part];
-                to[line * now.line + i * now.step + part] = static_cast<std::uint8_t>(std::lround(sum / ratio));
-            }
-    }
-}
-
-
-using Pixels = std::vector<std::uint8_t>; // red, green, blue, alpha
-
-Pixels resized(const std::uint8_t* pixels, int width, int height, int newWidth, int newHeight) {
-    Pixels wide(static_cast<std::size_t>(newWidth) * height * 4);
-    resample(pixels, {width, 4, width * 4}, wide.data(), {newWidth, 4, newWidth * 4}, height);
-    Pixels result(static_cast<std::size_t>(newWidth) * newHeight * 4);
-    resample(wide.data(), {height, newWidth * 4, 4}, result.data(), {newHeight, newWidth * 4, 4}, newWidth);
-    return result;
-}
-
-
-// Most pictures have such sides already and are passed on unchanged.
-void upload(const void* given, int width, int height, bool mipmaps) {
-    const auto* pixels = static_cast<const std::uint8_t*>(given);
-    const int newWidth = nearestPowerOfTwo(width);
-    const int newHeight = nearestPowerOfTwo(height);
-    if (newWidth == width && newHeight == height)
-        webUpload(boundTexture, width, height, pixels, mipmaps);
-    else
-        webUpload(boundTexture, newWidth, newHeight, resized(pixels, width, height, newWidth, newHeight).data(),
-                  mipmaps);
-}
+// The browser has the pixels already; what the game passes is the number of a picture.
+void setPicture(const void* pixels) { pictures[boundTexture] = *static_cast<const std::uint32_t*>(pixels); }
 
 } // namespace
 
 
 void drawCollected() {
-    if (!indices.empty())
-        webDraw(corners.data(), corners.size(), indices.data(), indices.size(), batches.data(), batches.size());
-    corners.clear();
-    indices.clear();
+    if (!triangles.empty())
+        webDraw(triangles.data(), triangles.size(), batches.data(), batches.size());
+    triangles.clear();
     batches.clear();
 }
 
@@ -142,19 +87,15 @@ void setVisible(bool isVisible) { visible = isVisible; }
 extern "C" {
 
 void glBegin(GLenum mode) {
-    if (corners.size() > MOST_CORNERS / 2)
-        drawCollected();
     shape = mode;
-    shapeBegin = corners.size();
+    shapeCorners.clear();
 }
 
 
 // Each quad is a fan of four corners. Polygons, which are convex, and fans are one fan each.
 void glEnd() {
-    if (!visible)
-        return;
-    const std::size_t drawn = corners.size() - shapeBegin;
-    addFans(shapeBegin, corners.size(), shape == GL_QUADS ? 4 : std::max<std::size_t>(drawn, 1));
+    if (!shapeCorners.empty())
+        addFans(shape == GL_QUADS ? 4 : shapeCorners.size());
 }
 
 
@@ -164,7 +105,7 @@ void glVertex2d(GLdouble x, GLdouble y) {
     const Plane all = combined(projection.back(), modelview.back());
     corner.x = static_cast<float>(all.xx * x + all.xy * y + all.x);
     corner.y = static_cast<float>(all.yx * x + all.yy * y + all.y);
-    corners.push_back(corner);
+    shapeCorners.push_back(corner);
 }
 
 
@@ -232,26 +173,29 @@ void glFlush() {}
 
 
 void glGenTextures(GLsizei count, GLuint* textures) {
-    for (GLsizei i = 0; i < count; ++i)
-        textures[i] = ++lastTexture;
+    for (GLsizei i = 0; i < count; ++i) {
+        textures[i] = static_cast<GLuint>(pictures.size());
+        pictures.push_back(0);
+    }
 }
 
 
 void glBindTexture(GLenum /*target*/, GLuint texture) { boundTexture = texture; }
 
 
-void glTexParameteri(GLenum /*target*/, GLenum name, GLint value) { webFilter(boundTexture, name, value); }
+// All pictures have mipmaps, and the filters that the game sets.
+void glTexParameteri(GLenum /*target*/, GLenum /*name*/, GLint /*value*/) {}
 
 
-void glTexImage2D(GLenum /*target*/, GLint /*level*/, GLint /*internal*/, GLsizei width, GLsizei height,
+void glTexImage2D(GLenum /*target*/, GLint /*level*/, GLint /*internal*/, GLsizei /*width*/, GLsizei /*height*/,
                   GLint /*border*/, GLenum /*format*/, GLenum /*type*/, const GLvoid* pixels) {
-    upload(pixels, width, height, false);
+    setPicture(pixels);
 }
 
 
-GLint gluBuild2DMipmaps(GLenum /*target*/, GLint /*internal*/, GLsizei width, GLsizei height, GLenum /*format*/,
+GLint gluBuild2DMipmaps(GLenum /*target*/, GLint /*internal*/, GLsizei /*width*/, GLsizei /*height*/, GLenum /*format*/,
                         GLenum /*type*/, const void* pixels) {
-    upload(pixels, width, height, true);
+    setPicture(pixels);
     return 0;
 }
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// What the port needs from the browser; port.js provides it.
+// What the port needs from the browser; port.js passes it on to the page's scripts.
 
 /// A corner of a triangle: its place in the window, from -1 to 1 in each direction, its place in the picture, and its
 /// colour.
@@ -12,30 +12,27 @@ struct Corner {
     float x, y, s, t;
     std::uint8_t colour[4];
 };
-static_assert(sizeof(Corner) == 20, "port.js tells WebGL where in these bytes each part of a corner lies");
+static_assert(sizeof(Corner) == 20, "graphics.js tells WebGL where in these bytes each part of a corner lies");
 
-/// The next `indices` indices show the picture `texture`; texture 0 is plain white.
+/// The next `corners` corners show a picture, by its number; 0 is plain white.
 struct Batch {
-    unsigned texture;
-    unsigned indices;
+    unsigned picture;
+    unsigned corners;
 };
-static_assert(sizeof(Batch) == 8, "port.js reads two numbers of 32 bits");
+static_assert(sizeof(Batch) == 8, "graphics.js reads two numbers of 32 bits");
 
 extern "C" {
 
 /// Opens the canvas as the game's window, with its size in pixels.
 void webOpen(int width, int height);
-/// Closes the window, releases what was made for it, and tells the page.
+/// Closes the window, and tells the page.
 void webClose();
 /// Begins a frame: sets the size of the canvas to that on the page, and makes it black.
 void webClear();
-/// Draws triangles; `indices` name their corners.
-void webDraw(const Corner* corners, std::size_t cornerCount, const std::uint16_t* indices, std::size_t indexCount,
-             const Batch* batches, std::size_t batchCount);
-/// Makes a texture of a picture with sides that are powers of two, and its mipmaps if they are wanted.
-void webUpload(unsigned texture, int width, int height, const std::uint8_t* pixels, bool mipmaps);
-/// Sets a parameter of a texture.
-void webFilter(unsigned texture, int name, int value);
+/// Draws triangles.
+void webDraw(const Corner* corners, std::size_t cornerCount, const Batch* batches, std::size_t batchCount);
+/// The number of a picture, 0 if the page has none of this name.
+unsigned webPicture(const char* path);
 
 /// Waits until the browser wants a frame and steps of the game are due for it, and returns how many. Does not return
 /// while the page rests.
@@ -44,10 +41,6 @@ unsigned webNextFrame();
 /// Takes the oldest pending input: an SDL event type, a key or button, and a place in the window. Returns 0 if there is
 /// none.
 int webInput(int input[4]);
-
-/// The pixels of a picture that the page has loaded, as red, green, blue, alpha; null if there is none. The caller
-/// frees them.
-std::uint8_t* webPicture(const char* path, int* width, int* height);
 
 /// The number of a sound or a piece of music. If it has not arrived when it is played, it is not heard.
 int webSound(const char* path);

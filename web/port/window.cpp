@@ -1,5 +1,6 @@
 // Stands in for SDL and SDL_image: the canvas is the window, the page's input its events, and surfaces are plain memory
-// of four bytes a pixel. Stands in for the disk too: there is none, so every file is missing.
+// of four bytes a pixel. But the browser keeps the pictures: the surface of a loaded one has a single pixel, the
+// picture's number. Stands in for the disk too: there is none, so every file is missing.
 
 #include "port.h"
 
@@ -15,7 +16,7 @@
 
 namespace {
 
-SDL_Surface* newSurface(int width, int height, Uint8* pixels) {
+SDL_Surface* newSurface(int width, int height) {
     auto* format = new SDL_PixelFormat();
     format->BitsPerPixel = 32;
     format->BytesPerPixel = 4;
@@ -28,13 +29,8 @@ SDL_Surface* newSurface(int width, int height, Uint8* pixels) {
     surface->w = width;
     surface->h = height;
     surface->pitch = width * 4;
-    surface->pixels = pixels;
+    surface->pixels = std::calloc(height, surface->pitch);
     return surface;
-}
-
-
-SDL_Surface* newSurface(int width, int height) {
-    return newSurface(width, height, static_cast<Uint8*>(std::calloc(height, width * 4)));
 }
 
 } // namespace
@@ -53,7 +49,7 @@ void SDL_WM_SetCaption(const char* /*title*/, const char* /*icon*/) {}
 
 SDL_Surface* SDL_SetVideoMode(int width, int height, int /*bits*/, Uint32 /*flags*/) {
     webOpen(width, height);
-    static SDL_Surface* window = newSurface(width, height, nullptr);
+    static SDL_Surface* window = newSurface(width, height);
     return window;
 }
 
@@ -133,10 +129,12 @@ void SDL_FreeSurface(SDL_Surface* surface) {
 
 
 SDL_Surface* IMG_Load(const char* path) {
-    int width = 0;
-    int height = 0;
-    Uint8* pixels = webPicture(path, &width, &height);
-    return pixels == nullptr ? nullptr : newSurface(width, height, pixels);
+    const Uint32 picture = webPicture(path);
+    if (picture == 0)
+        return nullptr;
+    SDL_Surface* surface = newSurface(1, 1);
+    std::memcpy(surface->pixels, &picture, sizeof picture);
+    return surface;
 }
 
 } // extern "C"
