@@ -1,13 +1,14 @@
 // The page's first script, in a language that any browser understands. Loads the others, or says why they can't run
 // here.
 (function () {
-  var start = document.getElementById('start');
+  var play = document.getElementById('play');
+  var reload = document.getElementById('reload');
   var progress = document.getElementById('progress');
   var script = document.createElement('script');
 
   function say(words) {
     document.getElementById('message').textContent = words;
-    start.hidden = true;
+    play.hidden = true;
     progress.hidden = true;
   }
 
@@ -26,16 +27,14 @@
     say('This browser offers no WebAssembly to the page, and the game needs that. Any current browser will do.');
     return;
   }
-  start.hidden = false;
+  play.hidden = false;
   progress.hidden = false;
+  reload.onclick = function () { location.reload(); };
   script.type = 'module';
   script.src = 'page.js';
   script.onerror = function () {
     say('The page did not load completely: one of its scripts is missing.');
-    start.hidden = false;
-    start.disabled = false;
-    start.textContent = 'Load again';
-    start.onclick = function () { location.reload(); };
+    reload.hidden = false;
   };
   document.head.appendChild(script);
 })();

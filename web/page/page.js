@@ -1,20 +1,28 @@
-// The page around the game: loads its files, starts it on a click, lets it rest, and says what has gone wrong.
+// The page around the game: loads its files, starts it on a press, asks before anything is lost, and says what has gone
+// wrong.
 
 import * as graphics from './graphics.js';
 import * as program from './program.js';
 import * as sound from './sound.js';
 
+/** @type {(id: string) => any} */
 const element = id => document.getElementById(id);
-const [canvas, front, bar, message, progress, start, rest] =
-  ['canvas', 'front', 'bar', 'message', 'progress', 'start', 'rest'].map(element);
+const [canvas, front, bar, message, progress, play, reload, question, questionText, goOn, startOver] =
+  ['canvas', 'front', 'bar', 'message', 'progress', 'play', 'reload', 'question', 'questionText', 'goOn', 'startOver']
+    .map(element);
 
-// before: the files to load before the start, with their bytes; sounds: those to load afterwards
+const WAITING = 'The game is waiting for you.';
+const LOSS_LIMIT = 10000; // milliseconds that players wait for lost graphics
+
+// before: the files to load before the game can start, with their bytes; sounds: those to load afterwards
 const files = JSON.parse(element('files').textContent);
-const arrived = {}; // file: bytes
+/** @type {Record<string, HTMLImageElement>} */
 const images = {}; // by the paths that the game uses
 let compiled; // the program
-let isOpen = false; // the canvas
-let state = 'front'; // then 'starting', 'playing' and 'resting', and 'front' again; 'broken' is final
+let state = 'front'; // then 'starting', 'playing' and 'suspended', and 'front' again; 'broken' is final
+let inSight = true; // in a long page around the game's frame
+let lossTimer;
+let soundsLoading;
 
 // A browser may refuse a request; then everything stays as it is.
 const nevermind = () => {};
@@ -22,17 +30,29 @@ const nevermind = () => {};
 // Without milliseconds it gives the page time for its other work.
 const wait = milliseconds => new Promise(done => setTimeout(done, milliseconds));
 
+// Files are packed in formats that the game does not know of.
+const unpacked = file => file.replace(/\.(webp|flac)$/, '');
 
-function offer(words, button, action) {
-  message.textContent = words;
+
+// In a frame, the reader may be typing into the page around it.
+function focus(target) {
+  if (document.hasFocus())
+    target.focus({preventScroll: true});
+}
+
+
+// The front stands before the game again, with one of its buttons.
+function showFront(words, button) {
   message.setAttribute('role', 'alert');
+  message.textContent = words;
   progress.hidden = true;
-  start.disabled = false;
-  start.textContent = button;
-  start.onclick = action;
+  play.hidden = button !== play;
+  reload.hidden = button !== reload;
+  button.disabled = false;
   bar.hidden = true;
+  canvas.inert = true;
   front.hidden = false;
-  start.focus();
+  focus(button);
   if (document.fullscreenElement)
     document.exitFullscreen().catch(nevermind);
 }
@@ -42,94 +62,60 @@ function offer(words, button, action) {
 function breakOff(words) {
   if (state === 'broken')
     return;
-  if (state === 'playing' || state === 'resting')
-    program.halt();
   state = 'broken';
+  program.halt();
   sound.suspend();
-  rest.close();
-  offer(words, 'Load again', () => location.reload());
+  question.close();
+  showFront(words, reload);
 }
 
 
-function graphicsLost() {
-  breakOff('The browser took the graphics away, perhaps for another program.');
+function graphicsFailed() {
+  breakOff('The graphics were lost, and the browser did not restore them.');
 }
 
 
 function fail(error) {
   // Whatever fails then fails because of that.
   if (graphics.isLost())
-    graphicsLost();
-  breakOff('The game stopped, and that is a fault of ours. ' +
-    `Version ${element('version').textContent} reports: ${error?.message || error}`);
+    graphicsFailed();
+  breakOff(`The game failed: ${error?.message || error} (version ${element('version').textContent}).`);
 }
 
 
-function arrive(file, bytes) {
-  arrived[file] = (arrived[file] || 0) + bytes;
-  progress.value = Object.values(arrived).reduce((sum, some) => sum + some, 0);
-}
-
-
+// The front's picture comes first.
 async function fetchBytes(file) {
-  const response = await fetch(file);
+  const response = await fetch(file, {priority: 'low'});
   if (!response.ok)
     throw new Error(`the server answered ${response.status}`);
-  const reader = response.body.getReader();
-  const parts = [];
-  for (let part = await reader.read(); !part.done; part = await reader.read()) {
-    parts.push(part.value);
-    arrive(file, part.value.length);
-  }
-  return new Blob(parts, {type: response.headers.get('content-type')});
+  return response.arrayBuffer();
 }
 
 
-async function picture(blob) {
-  const image = new Image();
-  image.src = URL.createObjectURL(blob);
+// WebGL takes no pictures of foreign servers unless they allow it, and to a frame in a sandbox every server is foreign.
+async function loadImage(file) {
+  const image = Object.assign(new Image(), {crossOrigin: 'anonymous', fetchPriority: 'low', src: file});
   await image.decode();
-  URL.revokeObjectURL(image.src);
   return image;
 }
 
 
-// Pictures are sent as WebP, which is smaller; the game knows them without that extension.
 async function load(file) {
-  const place = file.replace(/\.webp$/, '');
   try {
     if (file.endsWith('.wasm'))
-      compiled = await WebAssembly.compile(await (await fetchBytes(file)).arrayBuffer());
+      compiled = await WebAssembly.compile(await fetchBytes(file));
     else
-      images[place] = await picture(await fetchBytes(file));
+      images[unpacked(file)] = await loadImage(file);
   } catch (error) {
-    throw new Error(`${place} did not load: ${error.message}.`);
+    throw new Error(`${unpacked(file)} did not load: ${error.message}`);
   }
-}
-
-
-// Players see the front picture while the rest loads, so the rest waits until the picture is on the screen, if the
-// browser reports that. Both waits have a limit in milliseconds: a request may hang, and nothing is shown in a hidden
-// tab.
-async function frontIsSeen() {
-  const LONGEST_ON_ITS_WAY = 10000;
-  const LONGEST_UNTIL_SEEN = 1000;
-  const type = 'largest-contentful-paint';
-  const shown = front.querySelector('img');
-  await Promise.race([shown.decode().catch(nevermind), wait(LONGEST_ON_ITS_WAY)]);
-  if (!PerformanceObserver.supportedEntryTypes.includes(type))
-    return;
-  const seen = new Promise(done => {
-    const look = list => list.getEntries().some(({element}) => element === shown) && done();
-    new PerformanceObserver(look).observe({type, buffered: true});
-  });
-  await Promise.race([seen, wait(LONGEST_UNTIL_SEEN)]);
+  progress.value += files.before[file];
 }
 
 
 async function loadAll() {
-  progress.max = Object.values(files.before).reduce((sum, bytes) => sum + bytes, 0);
-  await frontIsSeen();
+  const sizes = Object.values(files.before);
+  progress.max = sizes.reduce((sum, bytes) => sum + bytes, 0);
   try {
     await Promise.all(Object.keys(files.before).map(load));
   } catch (error) {
@@ -137,97 +123,143 @@ async function loadAll() {
     return;
   }
   progress.hidden = true;
-  start.disabled = false;
-  start.textContent = 'Play';
-  start.onclick = play;
-  start.focus();
+  play.disabled = false;
+  play.textContent = 'Play';
+  focus(play);
 }
 
 
-// One after another; sent as FLAC, which is smaller. A sound that does not arrive is not heard, and is asked for again with the next game.
+// One after another. Those that do not arrive are asked for again, more and more rarely.
 async function loadSounds() {
-  for (const file of files.sounds.splice(0))
-    try {
-      await sound.add(file.replace(/\.flac$/, ''), await (await fetchBytes(file)).arrayBuffer());
-    } catch (error) {
-      files.sounds.push(file);
-      console.warn(`${file} will not be heard: ${error.message}`);
-    }
+  for (let seconds = 2; files.sounds.length > 0; seconds = Math.min(2 * seconds, 30)) {
+    for (const file of files.sounds.splice(0))
+      try {
+        await sound.add(unpacked(file), await fetchBytes(file));
+      } catch (error) {
+        files.sounds.push(file);
+        console.warn(`${file} can't be heard yet: ${error.message}`);
+      }
+    await wait(1000 * seconds);
+  }
 }
 
 
-async function play() {
+async function start() {
   state = 'starting';
-  start.disabled = true;
-  start.textContent = 'Starting…';
+  play.disabled = true;
+  play.textContent = 'Starting…';
   try {
     sound.open();
     await wait();
-    if (!isOpen && !graphics.open(canvas)) {
+    if (!graphics.open(canvas)) {
       breakOff('This browser offers no WebGL 2, which the game needs. It may be switched off in the browser\'s settings.');
       return;
     }
-    if (!isOpen) {
-      isOpen = true;
-      canvas.addEventListener('webglcontextlost', graphicsLost);
-      await graphics.makeTextures(images);
-    }
+    await graphics.makeTextures(images);
     if (state === 'starting')
-      await run();
+      await program.start(compiled, canvas, {shown, failed: fail, closed});
   } catch (error) {
     fail(error);
   }
 }
 
 
-function run() {
-  return program.start(compiled, canvas, {
-    shown() {
-      if (state === 'broken') {
-        program.halt();
-        return;
-      }
-      state = 'playing';
-      front.hidden = true;
-      bar.hidden = false;
-      canvas.focus({preventScroll: true});
-      loadSounds();
-      if (document.hidden)
-        takeRest();
-    },
-    failed: fail,
-    closed() {
-      if (state === 'broken')
-        return;
-      state = 'front';
-      sound.suspend();
-      offer('Thank you for playing.', 'Play again', play);
-    }
-  });
+// The game has drawn its first frame.
+function shown() {
+  if (state === 'broken') {
+    program.halt();
+    return;
+  }
+  state = 'playing';
+  front.hidden = true;
+  bar.hidden = false;
+  canvas.inert = false;
+  focus(canvas);
+  soundsLoading ??= loadSounds();
+  suspendUnseen();
 }
 
 
-// Nothing moves and nothing is heard until the player continues.
-function takeRest(words = 'The game is waiting for you.', mayRestart = false) {
+function closed() {
+  if (state === 'broken')
+    return;
+  state = 'front';
+  sound.suspend();
+  play.textContent = 'Play again';
+  showFront('Thank you for playing.', play);
+}
+
+
+// Nothing moves and nothing is heard until the player answers.
+function suspend(words) {
   if (state !== 'playing')
     return;
-  state = 'resting';
+  state = 'suspended';
   program.suspend();
   sound.suspend();
-  element('restWords').textContent = words;
-  element('again').hidden = !mayRestart;
-  rest.showModal();
+  questionText.textContent = words;
+  // The dialog would take the focus from the page around a frame, and scroll to itself.
+  question.inert = true;
+  question.showModal();
+  question.inert = false;
+  focus(goOn);
 }
 
 
-function goOn() {
-  if (state !== 'resting')
+// In answer to a press: sound that a call has interrupted comes back with a new context only.
+function resume() {
+  if (state !== 'suspended')
     return;
   state = 'playing';
-  rest.close();
+  question.close();
   program.resume();
   sound.open();
-  canvas.focus({preventScroll: true});
+  focus(canvas);
+}
+
+
+function ask() {
+  suspend('Go on with this game?');
+}
+
+
+function suspendUnseen() {
+  if (document.hidden || !inSight)
+    suspend(WAITING);
+}
+
+
+// Phones take the graphics from a page in the background, and may restore them only when it is looked at again.
+function limitLoss() {
+  clearTimeout(lossTimer);
+  if (graphics.isLost() && !document.hidden)
+    lossTimer = setTimeout(graphicsFailed, LOSS_LIMIT);
+}
+
+
+function loseGraphics(event) {
+  event.preventDefault(); // otherwise the browser never restores them
+  limitLoss();
+  if (state === 'starting')
+    graphicsFailed();
+  suspend(WAITING);
+  questionText.textContent = 'The graphics were lost. Waiting for the browser to restore them…';
+  goOn.disabled = true;
+  startOver.disabled = true;
+}
+
+
+async function restoreGraphics() {
+  limitLoss();
+  try {
+    await graphics.makeTextures(images);
+  } catch (error) {
+    fail(error);
+  }
+  questionText.textContent = WAITING;
+  goOn.disabled = false;
+  startOver.disabled = false;
+  focus(goOn);
 }
 
 
@@ -255,9 +287,9 @@ function onPress(id, action) {
 
 const toggle = (button, on) => button.setAttribute('aria-pressed', on);
 
-onPress('pause', () => program.press(' '));
-// It is beside the other buttons, and a slip would cost the whole game.
-onPress('restart', () => takeRest('Leave this game and start again?', true));
+// On the title any key would start the game.
+onPress('pause', () => program.onTitle() || program.press(' '));
+onPress('restart', () => program.onTitle() || ask());
 onPress('sound', button => {
   sound.setOn(!sound.isOn());
   toggle(button, sound.isOn());
@@ -267,18 +299,38 @@ toggle(element('sound'), sound.isOn());
 document.addEventListener('fullscreenchange', () => toggle(element('full'), Boolean(document.fullscreenElement)));
 element('full').hidden = !document.fullscreenEnabled;
 
-element('goOn').addEventListener('click', goOn);
-element('again').addEventListener('click', () => {
-  goOn();
+play.addEventListener('click', start);
+goOn.addEventListener('click', resume);
+startOver.addEventListener('click', () => {
+  resume();
   program.press('r');
 });
-rest.addEventListener('close', goOn);
-document.addEventListener('visibilitychange', () => document.hidden && takeRest());
-
-window.addEventListener('keydown', event => {
-  if (state === 'playing' && event.key === 'Escape' && !document.fullscreenElement)
-    program.press('\x1b');
+element('leave').addEventListener('click', () => {
+  resume();
+  program.press('\x1b');
 });
+// A phone's gesture for going back closes it too.
+question.addEventListener('close', () => question.open || resume());
+
+// A slip must not end a game, so Escape only asks, however often it is pressed. In full screen it is the browser's.
+window.addEventListener('keydown', event => {
+  if (event.key !== 'Escape' || document.fullscreenElement)
+    return;
+  event.preventDefault();
+  ask();
+}, true);
+
+document.addEventListener('visibilitychange', () => {
+  suspendUnseen();
+  limitLoss();
+});
+new IntersectionObserver(entries => {
+  inSight = entries[entries.length - 1].isIntersecting;
+  suspendUnseen();
+}).observe(canvas);
+
+canvas.addEventListener('webglcontextlost', loseGraphics);
+canvas.addEventListener('webglcontextrestored', restoreGraphics);
 
 // A phone call takes the sound away; the next press brings it back.
 for (const press of ['pointerup', 'click', 'keydown'])
@@ -287,5 +339,11 @@ for (const press of ['pointerup', 'click', 'keydown'])
 // Players who have zoomed in must be able to zoom out again.
 window.visualViewport?.addEventListener('resize', () =>
   document.documentElement.classList.toggle('enlarged', visualViewport.scale > 1));
+
+// A long touch shows a magnifying glass on some phones. Where two fingers may zoom, they must go on to.
+canvas.addEventListener('touchstart', event => {
+  if (!document.documentElement.classList.contains('enlarged'))
+    event.preventDefault();
+}, {passive: false});
 
 loadAll().catch(fail);
