@@ -106,12 +106,17 @@ export function wake() {
 }
 
 
-// Music that nobody wants to hear is not fetched.
+// Music that nobody wants to hear is not fetched. After an error it is asked for again.
 function startMusic() {
   if (!track.place || off)
     return;
-  if (!music.getAttribute('src') || music.error) {
+  const {error} = music;
+  if (error)
     stopMusic();
+  // Some browsers can't begin in the middle if the server only sends whole files.
+  if (error?.code === MediaError.MEDIA_ERR_SRC_NOT_SUPPORTED)
+    track.seconds = 0;
+  if (!music.getAttribute('src')) {
     music.src = track.place;
     music.currentTime = track.seconds;
   }
