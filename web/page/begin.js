@@ -33,7 +33,7 @@
   script.type = 'module';
   script.src = 'page.js';
   script.onerror = function () {
-    say('The page did not load completely: one of its scripts is missing.');
+    say('The page did not load completely: one of its scripts did not arrive.');
     reload.hidden = false;
   };
   document.head.appendChild(script);

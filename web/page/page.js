@@ -83,9 +83,8 @@ function fail(error) {
 }
 
 
-// The front's picture comes first.
 async function fetchBytes(file) {
-  const response = await fetch(file, {priority: 'low'});
+  const response = await fetch(file);
   if (!response.ok)
     throw new Error(`the server answered ${response.status}`);
   return response.arrayBuffer();
@@ -94,7 +93,7 @@ async function fetchBytes(file) {
 
 // WebGL takes no pictures of foreign servers unless they allow it, and to a frame in a sandbox every server is foreign.
 async function loadImage(file) {
-  const image = Object.assign(new Image(), {crossOrigin: 'anonymous', fetchPriority: 'low', src: file});
+  const image = Object.assign(new Image(), {crossOrigin: 'anonymous', src: file});
   await image.decode();
   return image;
 }
@@ -113,9 +112,29 @@ async function load(file) {
 }
 
 
+// Players see the front's picture while the rest loads, so the rest waits until the picture is on the screen, if the
+// browser reports that. Both waits have a limit in milliseconds: a request may hang, and nothing is shown in a hidden
+// tab.
+async function frontIsSeen() {
+  const LONGEST_ON_ITS_WAY = 10000;
+  const LONGEST_UNTIL_SEEN = 1000;
+  const type = 'largest-contentful-paint';
+  const picture = front.querySelector('img');
+  await Promise.race([picture.decode().catch(nevermind), wait(LONGEST_ON_ITS_WAY)]);
+  if (!PerformanceObserver.supportedEntryTypes.includes(type))
+    return;
+  const seen = new Promise(done => {
+    const look = list => list.getEntries().some(({element}) => element === picture) && done();
+    new PerformanceObserver(look).observe({type, buffered: true});
+  });
+  await Promise.race([seen, wait(LONGEST_UNTIL_SEEN)]);
+}
+
+
 async function loadAll() {
   const sizes = Object.values(files.before);
   progress.max = sizes.reduce((sum, bytes) => sum + bytes, 0);
+  await frontIsSeen();
   try {
     await Promise.all(Object.keys(files.before).map(load));
   } catch (error) {
