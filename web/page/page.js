@@ -299,7 +299,7 @@ async function fillScreen() {
 // A button does its work and gives the keyboard focus back to the canvas.
 function onPress(id, action) {
   element(id).addEventListener('click', () => {
-    canvas.focus({preventScroll: true});
+    focus(canvas);
     action(element(id));
   });
 }
@@ -330,6 +330,8 @@ element('leave').addEventListener('click', () => {
 });
 // A phone's gesture for going back closes it too.
 question.addEventListener('close', () => question.open || resume());
+// It may have been asked while the player was elsewhere.
+window.addEventListener('focus', () => question.open && focus(goOn));
 
 // A slip must not end a game, so Escape only asks, however often it is pressed. In full screen it is the browser's.
 window.addEventListener('keydown', event => {
