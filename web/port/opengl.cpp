@@ -75,7 +75,7 @@ void setPicture(const void* pixels) { pictures[boundTexture] = *static_cast<cons
 
 void drawCollected() {
     if (!triangles.empty())
-        webDraw(triangles.data(), triangles.size(), batches.data(), batches.size());
+        webDraw(triangles.data(), triangles.size() * sizeof(Corner), batches.data(), batches.size());
     triangles.clear();
     batches.clear();
 }

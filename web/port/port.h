@@ -29,8 +29,8 @@ void webOpen(int width, int height);
 void webClose();
 /// Begins a frame: sets the size of the canvas to that on the page, and makes it black.
 void webClear();
-/// Draws triangles.
-void webDraw(const Corner* corners, std::size_t cornerCount, const Batch* batches, std::size_t batchCount);
+/// Draws triangles, whose corners take so many `bytes`.
+void webDraw(const Corner* corners, std::size_t bytes, const Batch* batches, std::size_t batchCount);
 /// The number of a picture, 0 if the page has none of this name.
 unsigned webPicture(const char* path);
 

@@ -7,8 +7,8 @@ mergeInto(LibraryManager.library, {
 
   webClear: function () { Module['graphics'].begin(); },
 
-  webDraw: function (corners, cornerCount, batches, batchCount) {
-    Module['graphics'].draw(HEAPU8.subarray(corners, corners + cornerCount * 20),
+  webDraw: function (corners, bytes, batches, batchCount) {
+    Module['graphics'].draw(HEAPU8.subarray(corners, corners + bytes),
       HEAPU32.subarray(batches >> 2, (batches >> 2) + batchCount * 2));
   },
 
