@@ -171,7 +171,8 @@ async function start() {
     sound.open();
     await wait();
     if (!graphics.open(canvas)) {
-      breakOff('This browser offers no WebGL 2, which the game needs. It may be switched off in the browser\'s settings.');
+      breakOff('This browser offers no WebGL 2, which the game needs. ' +
+        'It may be switched off in the browser\'s settings.');
       return;
     }
     await graphics.makeTextures(images);
