@@ -3,10 +3,13 @@
 //     vorel-stage SCENE [SECONDS [PICTURE.bmp [GROUND]]]      in the folder that holds Assets/
 //
 // The scene runs for that many seconds, or until its window is closed. PICTURE.bmp gets its last frame. GROUND is a
-// number: each gives a different ground, always the same one. Except in a browser, grunts enter at the same places
-// every time. At the end the work per frame is printed. N stands for a number in these scenes:
+// number: each gives a different ground, always the same one. Grunts enter at the same places every time. At the end
+// the work per frame is printed. N stands for a number in these scenes:
 //
 //     title       the title screen
+//     everything  a frame that stays: ten turrets at work and one about to be bought; the title and the end of a wave
+//     are
+//                 small pictures in it
 //     busy        ten turrets fire at the two dozen grunts on the field and at the three dozen that follow
 //     waveN       ten turrets at work 24 seconds after the beginning of wave N
 //     waterN      N units of water are left
@@ -34,6 +37,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <ratio>
 #include <string>
 #include <utility>
@@ -63,6 +67,7 @@ struct Player {
     Vecteur2D mouse{512, 160};
     bool fires = false;
     std::vector<std::pair<int, Vecteur2D>> way; ///< For the film: the steps in which the pointer arrives, and where.
+    std::unique_ptr<Game> title, roundEnd;      ///< For the frame with everything: what it shows beside the field.
 };
 
 
@@ -124,6 +129,47 @@ void setUpFilm(Game& game, Player& player) {
 }
 
 
+/// Where the mouse is that goes once around the tower in twenty seconds.
+Vecteur2D aroundTower(int step) {
+    const double angle = step * STEP * 0.314;
+    return {TOWER[0] + 260 * std::cos(angle), TOWER[1] + 200 * std::sin(angle)};
+}
+
+
+/// A field full of grunts, jets and bursts, under a turret that is about to be bought, and the end of a wave that left
+/// more pollution than water.
+void setUpEverything(Game& game, Player& player) {
+    placeTurrets(game);
+    jumpToWave(game, 21);
+    pass(game, 30);
+    constexpr int STEPS_OF_FIRE = 450;
+    for (int step = 0; step < STEPS_OF_FIRE; ++step) {
+        game.shoot(aroundTower(step));
+        game.update(STEP);
+    }
+    game.activeTourelle();
+    player.mouse = {300, 330};
+
+    player.title = std::make_unique<Game>(WIDTH, HEIGHT);
+    player.roundEnd = std::make_unique<Game>(WIDTH, HEIGHT);
+    player.roundEnd->setIsInTitleScreen(false);
+    jumpToWave(*player.roundEnd, 3);
+    while (!player.roundEnd->getIsInBetwenWave())
+        pass(*player.roundEnd, 0.1);
+    pass(*player.roundEnd, 1.5); // the panel has not faded in completely
+}
+
+
+/// Draws a game as a small picture in the window, with its lower left corner at a point.
+void drawSmall(const Game& game, double x, double y, double size) {
+    glPushMatrix();
+    glTranslated(x, y, 0);
+    glScaled(size, size, 1);
+    game.draw(0, 0, 0);
+    glPopMatrix();
+}
+
+
 /// Moves the pointer like a hand, slowly at first and at last, and clicks or fires.
 void film(Game& game, Player& player, int step) {
     constexpr double STEPS_OF_A_MOVE = 25;
@@ -169,6 +215,8 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
         jumpToWave(game, name == "busy" ? 21 : number);
         pass(game, 24);
         player.fires = true;
+    } else if (name == "everything") {
+        setUpEverything(game, player);
     } else if (name == "film") {
         setUpFilm(game, player);
     } else if (name == "water") {
@@ -192,17 +240,20 @@ bool setUp(Game& game, Player& player, const std::string& scene) {
 
 /// One step and one frame of the game.
 void showStep(Game& game, Player& player, int step) {
-    // The mouse goes once around the tower in twenty seconds.
-    const double angle = step * STEP * 0.314;
     if (!player.way.empty())
         film(game, player, step);
     else if (player.fires)
-        player.mouse = {TOWER[0] + 260 * std::cos(angle), TOWER[1] + 200 * std::sin(angle)};
+        player.mouse = aroundTower(step);
     if (player.fires)
         game.shoot(player.mouse);
-    game.update(STEP);
+    if (!player.title)
+        game.update(STEP);
     prepareFrame(WIDTH, HEIGHT);
     game.draw(1000 * STEP, player.mouse[0], player.mouse[1]);
+    if (player.title) {
+        drawSmall(*player.title, 0, 576, 0.25);
+        drawSmall(*player.roundEnd, 640, 0, 0.375);
+    }
     if (!player.way.empty())
         drawPointer(player.mouse);
     glFlush();
@@ -251,7 +302,35 @@ std::vector<double> run(Game& game, Player& player, int steps, const std::string
 } // namespace
 
 
-#ifndef __EMSCRIPTEN__ // its library does not let a program replace the clock
+#ifdef __EMSCRIPTEN__
+// Debian's dice, so that a browser shows the same ground and the same bursts; bench/web/stage.js replaces the clock.
+namespace {
+
+std::vector<unsigned> dice;
+
+} // namespace
+
+
+int rand() {
+    constexpr std::size_t LONG_AGO = 31;
+    constexpr std::size_t LATELY = 3;
+    dice.push_back(dice[dice.size() - LATELY] + dice[dice.size() - LONG_AGO]);
+    return static_cast<int>(dice.back() >> 1U);
+}
+
+
+void srand(unsigned seed) {
+    constexpr std::size_t FIRST = 31;
+    constexpr int THROWN_AWAY = 310;
+    dice.assign(1, seed);
+    while (dice.size() < FIRST)
+        dice.push_back(static_cast<unsigned>(16807ULL * dice.back() % 2147483647ULL));
+    for (int i = 0; i < 3; ++i)
+        dice.push_back(dice[i]);
+    for (int i = 0; i < THROWN_AWAY; ++i)
+        rand();
+}
+#else
 std::chrono::system_clock::time_point std::chrono::system_clock::now() noexcept {
     entranceClock += std::chrono::milliseconds(3514);
     return time_point(entranceClock);
