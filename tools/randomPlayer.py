@@ -81,9 +81,9 @@ def in_browser(page, seconds):
             browser.call("HeapProfiler.collectGarbage")
             print(browser.value("drawn"), "frames:", end=" ")
             return browser.call("Runtime.getHeapUsage")["usedSize"], browser.value("memory.buffer.byteLength")
-        browser.call("Page.addScriptToEvaluateOnNewDocument", source=MEMORY)
+        browser.before(MEMORY)
         browser.open(server.address)
-        browser.start()
+        browser.play()
         browser.wait_for("the game", lambda: browser.value("Boolean(window.memory)"))
         keep_acting(seconds, held, page=1.1, game=1)
         if browser.complaints:

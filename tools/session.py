@@ -18,10 +18,12 @@ def play(program, directory, **environment):
     """One game in the program's own window."""
     with Window(program, **environment) as window:
         play_in(window, directory)
+        window.do("key", "Escape")
+        window.ended()
 
 
 def play_in(window, directory):
-    """One game: title, two turrets, fire, pause, the end of the wave or of the water, restart, quit."""
+    """One game: title, two turrets, fire, pause, the end of the wave or of the water, restart."""
     os.makedirs(directory, exist_ok=True)
     title = rgb("convert", "Assets/img/TitleScreen.jpg", "-resize", f"{WIDTH}x{HEIGHT}!")
 
@@ -67,8 +69,6 @@ def play_in(window, directory):
     keep("6-end", window.look())
     window.do("mouseup", 1, "key", "r")
     window.until("the title after a restart", on_title)
-    window.do("key", "Escape")
-    window.ended()
 
 
 def play_shortly(program, directory, **environment):

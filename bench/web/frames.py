@@ -5,6 +5,7 @@
 """
 import json
 import os
+import pathlib
 import statistics
 import sys
 
@@ -13,41 +14,13 @@ from chromium import Chromium
 from server import Server
 from window import Window
 
-# Counts frames, by the call that begins each, and keeps what the last whole one drew.
-COUNT = """
-window.frames_ = 0;
-const of = WebGL2RenderingContext.prototype;
-const wrap = (name, before) => {
-  const own = of[name];
-  of[name] = function (...given) { before(this, ...given); return own.apply(this, given); };
-};
-const seen = window.seen = {last: null, corners: null, batches: [], sizes: new Map(), bound: null, recording: false};
-wrap('clear', () => {
-  if (seen.recording && seen.batches.length)
-    seen.last = {corners: seen.corners, batches: seen.batches};
-  seen.batches = [];
-  ++window.frames_;
-});
-wrap('bindTexture', (gl, target, texture) => seen.bound = texture);
-wrap('texImage2D', (gl, target, level, internal, ...given) => {
-  const [width, height] = given.length > 3 ? given : [given[2].naturalWidth, given[2].naturalHeight];
-  seen.sizes.set(seen.bound, {texture: seen.sizes.size, width, height});
-});
-wrap('bufferData', (gl, target, data) => {
-  if (seen.recording)
-    seen.corners = Array.from(data);
-});
-wrap('drawArrays', (gl, mode, first, count) => {
-  if (seen.recording)
-    seen.batches.push({...seen.sizes.get(seen.bound), count});
-});
-"""
+COUNT = (pathlib.Path(__file__).parent / "count.js").read_text(encoding="utf-8")
 
 
 def frames_a_second(browser, seconds):
     frames, passed = browser.value(f"""new Promise(done => {{
-      const first = frames_, begin = performance.now();
-      setTimeout(() => done([frames_ - first, performance.now() - begin]), {1000 * seconds});
+      const first = framesDrawn, begin = performance.now();
+      setTimeout(() => done([framesDrawn - first, performance.now() - begin]), {1000 * seconds});
     }})""")
     return 1000 * frames / passed, frames
 
@@ -86,10 +59,10 @@ def main(page, seconds, rounds):
     with Server(page) as server:
         for _ in range(int(rounds)):
             with Chromium() as browser:
-                browser.call("Page.addScriptToEvaluateOnNewDocument", source=COUNT)
+                browser.before(COUNT)
                 browser.open(server.address)
-                browser.start()
-                browser.wait_for("frames", lambda: browser.value("frames_ > 100"))
+                browser.play()
+                browser.wait_for("frames", lambda: browser.value("framesDrawn > 100"))
                 before = processor_time(browser)
                 game, frames = frames_a_second(browser, float(seconds))
                 thread = (processor_time(browser) - before) / frames
@@ -100,7 +73,7 @@ def main(page, seconds, rounds):
                 browser.call("Page.navigate", url=server.address + "bare.html")
                 browser.wait_for("the bare page", lambda: browser.value("document.readyState === 'complete' && typeof draw === 'function'"))
                 browser.value(f"draw({json.dumps(frame)})")
-                browser.wait_for("frames", lambda: browser.value("frames_ > 100"))
+                browser.wait_for("frames", lambda: browser.value("framesDrawn > 100"))
                 bare = frames_a_second(browser, float(seconds))[0]
             triangles = sum(batch["count"] for batch in frame["batches"]) // 3
             print(f"{triangles} triangles in {len(frame['batches'])} batches: game {game:.1f}, bare {bare:.1f} frames a second, "

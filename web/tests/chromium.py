@@ -1,46 +1,42 @@
 """The game's page in Chromium, on a virtual display: a window like that of the program, and what the browser tells."""
 import json
 import os
-import tempfile
 import urllib.request
 
 import websocket
 
-from visitor import Refusal, SocketVisitor
-from window import HEIGHT, WIDTH
+from browser import Browser, Refusal, Socket
+from window import HEIGHT, WIDTH, Window
 
 BAR = 56  # the column of buttons beside the canvas
 
-# The flags: root has no sandbox, nothing is looked for outside this machine, and pictures are drawn on the processor.
+# A window without a frame is a pixel smaller than its display.
+SCREEN = WIDTH + BAR + 1, HEIGHT + 1
+
+# Root has no sandbox, nothing is looked for outside this machine, pictures are drawn on the processor, and all frames
+# of a page stand in one process.
 FLAGS = """--no-sandbox --kiosk --no-first-run --disable-quic --disable-background-networking --disable-component-update
-  --disable-sync --disable-default-apps --disable-dev-shm-usage --use-angle=swiftshader --enable-unsafe-swiftshader --remote-allow-origins=*
-  --remote-debugging-port=0""".split()
+  --disable-sync --disable-default-apps --disable-dev-shm-usage --use-angle=swiftshader --enable-unsafe-swiftshader
+  --disable-features=IsolateSandboxedIframes --remote-allow-origins=* --remote-debugging-port=0""".split()
 
 
-class Chromium(SocketVisitor):
+class Chromium(Browser):
     """Chromium without a page. It fills the display, so that the canvas is as large as the window of the program and
     lies where that would."""
 
-    def __init__(self, *flags, screen=(WIDTH + BAR, HEIGHT)):
-        self.profile = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
+    def launch(self, made):
         self.complaints = []
-        # A window without a frame is a pixel smaller than its display.
-        screen = screen[0] + 1, screen[1] + 1
-        super().__init__("/usr/bin/chromium", screen=screen, quiet=True, arguments=[
-            *FLAGS, *flags, "--window-position=0,0", "--window-size=%d,%d" % screen,
-            "--user-data-dir=" + self.profile.name, "about:blank"])
-        try:
-            known = os.path.join(self.profile.name, "DevToolsActivePort")
-            self.wait_for("a browser", lambda: os.path.exists(known) and open(known).read().count("\n"), 120)
-            self.port = open(known).readline().strip()
-            self.connect(self.wait_for("a tab", lambda: [tab for tab in self.tabs() if tab["type"] == "page"], 120)[0])
-        except BaseException:
-            self.__exit__()
-            raise
+        self.window = made.enter_context(Window("/usr/bin/chromium", screen=SCREEN, quiet=True, arguments=[
+            *FLAGS, "--window-position=0,0", "--window-size=%d,%d" % SCREEN, "--user-data-dir=" + self.profile,
+            "about:blank"]))
+        known = os.path.join(self.profile, "DevToolsActivePort")
+        self.wait_for("a browser", lambda: os.path.exists(known) and open(known).read().count("\n"), 120)
+        self.port = open(known).readline().strip()
+        self.connect(self.wait_for("a tab", lambda: [tab for tab in self.tabs() if tab["type"] == "page"], 120)[0])
 
     def connect(self, tab):
         self.tab = tab
-        self.use_socket(websocket.create_connection(tab["webSocketDebuggerUrl"], timeout=120))
+        self.call = Socket(websocket.create_connection(tab["webSocketDebuggerUrl"], timeout=120), self.note).call
         for domain in "Runtime", "Log", "Network", "Page":
             self.call(domain + ".enable")
 
@@ -50,10 +46,6 @@ class Chromium(SocketVisitor):
         with urllib.request.urlopen(request) as answer:
             told = answer.read()
         return json.loads(told) if told.startswith((b"[", b"{")) else told
-
-    def __exit__(self, *_):
-        super().__exit__()
-        self.profile.cleanup()
 
     def note(self, method, about):
         if method == "Runtime.exceptionThrown":
@@ -66,27 +58,25 @@ class Chromium(SocketVisitor):
         elif method == "Network.loadingFailed" and not about.get("canceled"):
             self.complaints.append("a request failed: " + about["errorText"])
 
-    def value(self, expression):
+    def value(self, expression, **where):
         """What an expression of the page's language comes to."""
-        answer = self.call("Runtime.evaluate", expression=expression, awaitPromise=True, returnByValue=True)
+        answer = self.call("Runtime.evaluate", expression=expression, awaitPromise=True, returnByValue=True, **where)
         if "exceptionDetails" in answer:
             details = answer["exceptionDetails"]
             raise Refusal(details.get("exception", {}).get("description") or details["text"])
         return answer["result"].get("value")
 
+    def before(self, script):
+        """Lets a script stand in every page before its own."""
+        self.call("Page.addScriptToEvaluateOnNewDocument", source=script)
+
     def open(self, address):
         self.call("Page.navigate", url=address)
-        self.offered("Play")
 
-    def start(self):
-        self.do("mousemove", *self.place("start"), "click", 1)
-
-    def until(self, what, seen, seconds=60):
-        """A frame that is drawn on the processor takes its time."""
-        return super().until(what, seen, 3 * seconds)
-
-    def ended(self):
-        self.offered("Play again")
+    def play(self):
+        """Waits for the button and presses it."""
+        self.offered("play", "Play")
+        self.window.do("mousemove", *self.place("play"), "click", 1)
 
     def screenshot(self):
         return self.call("Page.captureScreenshot")["data"]

@@ -1,12 +1,13 @@
 """The game's page in Firefox, steered over WebDriver BiDi."""
 import json
 import os
+import pathlib
 import subprocess
-import tempfile
 
 import websocket
 
-from visitor import Refusal, SocketVisitor, actions
+from browser import Browser, Refusal, Socket, actions
+from window import Window
 
 # Nothing is looked for outside this machine, and nothing covers the page.
 PREFERENCES = """
@@ -18,56 +19,29 @@ user_pref("network.connectivity-service.enabled", false);
 """
 
 
-def start_loudspeaker(folder):
-    """A sound server with a loudspeaker that nobody hears: without one Firefox lets no sound begin. It ends when it has
-    not been needed for ten minutes, whatever has happened to who started it."""
-    return subprocess.Popen(
-        ["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=600", "--load=module-null-sink",
-         f"--load=module-native-protocol-unix socket={folder}/loudspeaker"],
-        env={**os.environ, "HOME": folder, "XDG_RUNTIME_DIR": folder}, stderr=subprocess.DEVNULL)
-
-
-class Firefox(SocketVisitor):
+class Firefox(Browser):
     """Firefox without a page."""
 
-    def __init__(self):
-        self.profile = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
-        with open(os.path.join(self.profile.name, "user.js"), "w", encoding="utf-8") as preferences:
-            preferences.write(PREFERENCES)
-        self.complaints = []
-        self.loudspeaker = start_loudspeaker(self.profile.name)
-        super().__init__("/usr/bin/firefox-esr", quiet=True, HOME=self.profile.name,
-                         PULSE_SERVER=f"unix:{self.profile.name}/loudspeaker", arguments=[
-                             "--kiosk", "--remote-debugging-port", "0", "--profile", self.profile.name, "about:blank"])
-        try:
-            self.connect()
-        except BaseException:
-            self.__exit__()
-            raise
-
-    def connect(self):
-        known = os.path.join(self.profile.name, "WebDriverBiDiServer.json")
-        self.wait_for("Firefox", lambda: os.path.exists(known) and os.path.getsize(known), 120)
-        with open(known, encoding="utf-8") as file:
-            port = json.load(file)["ws_port"]
-        self.use_socket(websocket.create_connection(f"ws://127.0.0.1:{port}/session", timeout=300, suppress_origin=True))
+    def launch(self, made):
+        profile = pathlib.Path(self.profile)
+        (profile / "user.js").write_text(PREFERENCES, encoding="utf-8")
+        # A sound server with a loudspeaker that nobody hears: without one Firefox lets no sound begin. It ends when it
+        # has not been needed for ten minutes, whatever has happened to who started it.
+        loudspeaker = made.enter_context(subprocess.Popen(
+            ["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=600",
+             "--load=module-null-sink", f"--load=module-native-protocol-unix socket={profile}/loudspeaker"],
+            env={**os.environ, "HOME": self.profile, "XDG_RUNTIME_DIR": self.profile}, stderr=subprocess.DEVNULL))
+        made.callback(loudspeaker.kill)
+        self.window = made.enter_context(Window(
+            "/usr/bin/firefox-esr", quiet=True, HOME=self.profile, PULSE_SERVER=f"unix:{profile}/loudspeaker",
+            arguments=["--kiosk", "--remote-debugging-port", "0", "--profile", self.profile, "about:blank"]))
+        known = profile / "WebDriverBiDiServer.json"
+        self.wait_for("Firefox", lambda: known.exists() and known.stat().st_size, 120)
+        port = json.loads(known.read_text(encoding="utf-8"))["ws_port"]
+        self.call = Socket(websocket.create_connection(f"ws://127.0.0.1:{port}/session", timeout=300,
+                                                       suppress_origin=True)).call
         self.call("session.new", capabilities={})
         self.tab = self.wait_for("a tab", lambda: self.call("browsingContext.getTree")["contexts"])[0]["context"]
-        self.call("session.subscribe", events=["log.entryAdded", "network.fetchError", "network.responseCompleted"])
-
-    def __exit__(self, *_):
-        super().__exit__()
-        self.loudspeaker.kill()
-        self.loudspeaker.wait()
-        self.profile.cleanup()
-
-    def note(self, method, about):
-        if method == "log.entryAdded" and about["level"] in ("warn", "error"):
-            self.complaints.append(about["text"])
-        elif method == "network.responseCompleted" and about["response"]["status"] >= 400:
-            self.complaints.append(f"{about['response']['status']} {about['request']['url']}")
-        elif method == "network.fetchError":
-            self.complaints.append(f"{about['errorText']} {about['request']['url']}")
 
     def open(self, address):
         self.call("browsingContext.navigate", context=self.tab, url=address, wait="complete")

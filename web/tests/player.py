@@ -1,40 +1,41 @@
-"""The game's page in Chromium, and how to play it and to disturb it."""
+"""A player at the game's page in Chromium, and those who disturb the play."""
 import contextlib
 import time
 import wave
 
+from browser import WATCH
 from chromium import Chromium
-from visitor import Refusal, require
-from watch import EARS, PROGRAM, SOUNDS
 
 LEFT, RIGHT = 1, 2  # the buttons of a mouse that are held, as the browser counts them together
 BUTTONS = {LEFT: "left", RIGHT: "right"}
-CTRL = 2  # among the keys that modify others
 
 # Places of the game: the turret in the shop, where one is placed, and a field in its reach.
 SHOP, PLACE, AIM = (992, 600), (640, 480), (780, 420)
 
-with wave.open("Assets/sfx/WaterStream.wav") as shot:
-    SHOT_SECONDS = shot.getnframes() / shot.getframerate()
+
+def seconds(name):
+    with wave.open(f"Assets/sfx/{name}.wav") as sound:
+        return sound.getnframes() / sound.getframerate()
 
 
-class Page(Chromium):
-    """What is seen of the page, what a player does, and what others do to it."""
+SHOT, PURCHASE = seconds("WaterStream"), seconds("TurretConstruction")
 
-    def __init__(self, address, folder):
-        self.address = address
-        self.folder = folder
+
+class Player(Chromium):
+    def __init__(self, server, pictures):
+        self.server = server
+        self.pictures = pictures  # the folder for them
         self.held = []  # requests that are not answered yet
+        self.contexts = {}  # where scripts of the page's frames run, by the name of the frame
+        self.frame = None  # in which the game is, if it is not alone
         super().__init__()
 
     def note(self, method, about):
         super().note(method, about)
         if method == "Fetch.requestPaused":
             self.held.append(about)
-
-    def before(self, script):
-        """Lets a script stand in the page before its own."""
-        self.call("Page.addScriptToEvaluateOnNewDocument", source=script)
+        elif method == "Runtime.executionContextCreated":
+            self.contexts[about["context"]["auxData"]["frameId"]] = about["context"]["id"]
 
     def renew(self):
         """Another tab, so that nothing is left of the trouble before."""
@@ -43,100 +44,108 @@ class Page(Chromium):
         self.tabs("/close/" + old["id"])
         self.held.clear()
         self.complaints.clear()
-        self.call("Storage.clearDataForOrigin", origin=self.address.rstrip("/"), storageTypes="local_storage")
+        self.frame = None
+        self.call("Storage.clearDataForOrigin", origin=self.server.address.rstrip("/"), storageTypes="local_storage")
         self.call("Network.setCacheDisabled", cacheDisabled=True)
         self.call("Emulation.setTouchEmulationEnabled", enabled=True, maxTouchPoints=5)
         self.resize(696, 480)
-        for script in EARS, PROGRAM, SOUNDS:
-            self.before(script)
+        self.before(WATCH)
 
-    def resize(self, width, height, density=1):
+    def resize(self, width, height, density=1, mobile=False):
         self.call("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=density,
-                  mobile=False)
+                  mobile=mobile)
 
     def visit(self):
-        self.call("Page.navigate", url=self.address)
+        self.open(self.server.address)
+
+    def visit_in_frame(self, sandbox=""):
+        """The game stands in a frame below the fold of another page."""
+        self.open(self.server.address + "around.html")
+        self.wait_for("the page around", lambda: self.value("document.readyState === 'complete'"))
+        self.value(f"""(frame => {{
+          {sandbox and f"frame.sandbox = '{sandbox}';"}
+          frame.src = '.';
+        }})(document.querySelector('iframe'))""")
+        inner = self.call("Page.getFrameTree")["frameTree"]["childFrames"][0]["frame"]["id"]
+        self.frame = inner
+        self.wait_for("the game in the frame", lambda: self.value("location.pathname === '/'"))
+
+    def value(self, expression):
+        """What an expression comes to, in the game's frame."""
+        return super().value(expression, **({"contextId": self.contexts[self.frame]} if self.frame else {}))
+
+    def value_around(self, expression):
+        return super().value(expression)
+
+    def area(self, element):
+        left, top, width, height = super().area(element)
+        if self.frame:
+            x, y = self.value_around("(({x, y}) => [x, y])(document.querySelector('iframe').getBoundingClientRect())")
+            return left + x, top + y, width, height
+        return left, top, width, height
 
     def hold(self, *patterns):
         """The files of such names are on their way for ever, or until `release`."""
         self.call("Fetch.enable", patterns=[{"urlPattern": pattern} for pattern in patterns])
 
+    def is_asked_for(self, what):
+        """Waits until such a file is asked for."""
+        self.wait_for(what, lambda: self.value("true") and self.held)
+
     def release(self):
         while self.held:
             self.call("Fetch.continueRequest", requestId=self.held.pop()["requestId"])
 
-    # What is seen.
+    def block(self, *patterns):
+        """The files of such names do not arrive."""
+        self.call("Network.setBlockedURLs", urls=patterns)
+
+    # What is seen and heard.
 
     def text(self):
         return self.value("document.body ? document.body.innerText : ''")
 
-    def message(self):
-        """What the page says over the game, for the reader of a failure."""
-        try:
-            return self.value("(message => message.checkVisibility() ? message.textContent : '')"
-                              "(document.getElementById('message'))")
-        except Refusal:
-            return ""
-
-    def reached(self, element):
-        """Whether an element of this name is there, and nothing lies on it."""
-        return self.value(f"""(() => {{
-          const found = document.getElementById('{element}');
-          if (!found)
-            return false;
-          const {{x, y, width, height}} = found.getBoundingClientRect();
-          return width > 0 && found.contains(document.elementFromPoint(x + width / 2, y + height / 2));
-        }})()""")
-
-    def label(self):
-        """What the large button says, if it can be pressed."""
-        return self.value("""(button => button?.checkVisibility() && !button.disabled ? button.textContent : '')
-          (document.getElementById('start'))""")
-
     def says(self, *words):
         self.wait_for(f"the words {words}", lambda: all(word.lower() in self.text().lower() for word in words))
 
-    def steps(self):
-        return self.value("program.steps")
+    def frames(self):
+        return self.value("watch.frames")
 
     def goes_on(self):
         """The game is seen and moves."""
-        begin = self.steps()
-        self.wait_for("the game going on", lambda: self.steps() > begin + 5 and self.reached("canvas"))
+        begin = self.frames()
+        self.wait_for("the game going on", lambda: self.frames() > begin + 5 and self.reached("canvas"))
 
     def stands(self):
-        """Nothing moves any more."""
-        time.sleep(0.3)
-        begin = self.steps()
-        time.sleep(0.7)
-        require(self.steps() == begin, f"The game goes on: {self.steps() - begin} steps.")
+        self.stays("The game goes on", self.frames)
 
-    def shots(self):
-        return self.value(f"audio.begun.filter(({{seconds}}) => Math.abs(seconds - {SHOT_SECONDS}) < 0.001).length")
+    def asks(self):
+        """The question is there, and the game waits for the answer."""
+        self.wait_for("the question", lambda: self.reached("goOn"))
+        self.stands()
+
+    def heard(self, sound):
+        """How often a sound was begun that is as long as this one."""
+        return self.value(f"watch.begun.filter(({{seconds}}) => Math.abs(seconds - {sound}) < 0.001).length")
 
     def fires(self):
-        begin = self.shots()
-        self.wait_for("a shot", lambda: self.shots() > begin)
+        begin = self.heard(SHOT)
+        self.wait_for("a shot", lambda: self.heard(SHOT) > begin)
 
     def is_still(self):
-        """No shot is fired any more, once the last ones have been heard."""
-        time.sleep(0.3)
-        begin = self.shots()
-        time.sleep(1.5)
-        require(self.shots() == begin, f"Fires on: {self.shots() - begin} shots.")
+        self.stays("Fires on", lambda: self.heard(SHOT), 1.5)
 
     def is_silent(self):
-        self.wait_for("silence", lambda: self.value("loudness()") == 0)
+        self.wait_for("silence", lambda: self.value("watch.loudness()") == 0)
 
     def is_loud(self):
-        self.wait_for("music", lambda: self.value("loudness()") > 0.001)
+        self.wait_for("music", lambda: self.value("watch.loudness()") > 0.001)
 
     # What a player does.
 
     def play(self):
-        """Waits for the button and presses it."""
-        self.offered("Play")
-        self.click("start")
+        self.offered("play", "Play")
+        self.click("play")
 
     def title(self):
         self.visit()
@@ -147,11 +156,14 @@ class Page(Chromium):
         self.title()
         self.key("a", "KeyA")
 
+    def buy(self):
+        self.click_at(*self.on_canvas(*SHOP))
+        self.click_at(*self.on_canvas(*PLACE))
+
     def turret(self):
         """The field with a turret."""
         self.field()
-        self.click_at(*self.on_canvas(*SHOP))
-        self.click_at(*self.on_canvas(*PLACE))
+        self.buy()
 
     @contextlib.contextmanager
     def another_tab(self):
@@ -167,6 +179,9 @@ class Page(Chromium):
         self.call("Input.dispatchMouseEvent", type="mouse" + kind, x=x, y=y, button=BUTTONS[button], buttons=held,
                   clickCount=1)
 
+    def hold_fire(self):
+        self.mouse("Pressed", *self.on_canvas(*AIM), held=LEFT)
+
     def click_at(self, x, y):
         self.mouse("Moved", x, y)
         self.mouse("Pressed", x, y, held=LEFT)
@@ -177,11 +192,24 @@ class Page(Chromium):
 
     def key(self, key, code):
         text = {"text": key} if len(key) == 1 else {}
-        number = {"Escape": 27, " ": 32}.get(key, ord(key[0].upper()) if len(key) == 1 else 0)
+        number = {"Escape": 27}.get(key, ord(key[0].upper()))
         self.call("Input.dispatchKeyEvent", type="keyDown", key=key, code=code, windowsVirtualKeyCode=number, **text)
         self.call("Input.dispatchKeyEvent", type="keyUp", key=key, code=code, windowsVirtualKeyCode=number)
+
+    def escape(self):
+        self.key("Escape", "Escape")
 
     def fingers(self, kind, places):
         """Fingers, by their numbers, come down ("Start"), move, or are lifted ("End"); the others stay."""
         self.call("Input.dispatchTouchEvent", type="touch" + kind,
                   touchPoints=[{"id": number, "x": x, "y": y} for number, (x, y) in places.items()])
+
+    def pinch(self, *fingers):
+        """Two fingers, each from one place to another."""
+        places = [{number: tuple(a + (b - a) * step / 14 for a, b in zip(begin, end))
+                   for number, (begin, end) in enumerate(fingers)} for step in range(15)]
+        self.fingers("Start", places[0])
+        for place in places:
+            self.fingers("Move", place)
+            time.sleep(0.02)
+        self.fingers("End", {})

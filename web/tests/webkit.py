@@ -1,11 +1,11 @@
 """The game's page in WebKitGTK, steered over WebDriver."""
-import contextlib
 import json
 import socket
 import urllib.error
 import urllib.request
 
-from visitor import Refusal, Visitor, actions
+from browser import Browser, Refusal, actions
+from window import Window
 
 
 def free_port():
@@ -14,25 +14,16 @@ def free_port():
         return probe.getsockname()[1]
 
 
-class WebKit(Visitor):
+class WebKit(Browser):
     """WebKitGTK's own small browser without a page."""
 
-    def __init__(self):
+    def launch(self, made):
         port = free_port()
-        self.complaints = []
         self.session = f"http://127.0.0.1:{port}"
-        super().__init__("/usr/bin/WebKitWebDriver", quiet=True, arguments=[f"--port={port}"])
-        try:
-            self.wait_for("WebKit", lambda: self.call("GET", "/status")["ready"])
-            self.session += "/session/" + self.call("POST", "/session", capabilities={})["sessionId"]
-        except BaseException:
-            super().__exit__()
-            raise
-
-    def __exit__(self, *_):
-        with contextlib.suppress(Refusal):
-            self.call("DELETE", "")
-        super().__exit__()
+        self.window = made.enter_context(Window("/usr/bin/WebKitWebDriver", quiet=True, arguments=[f"--port={port}"]))
+        self.wait_for("WebKit", lambda: self.call("GET", "/status")["ready"])
+        self.session += "/session/" + self.call("POST", "/session", capabilities={})["sessionId"]
+        made.callback(self.call, "DELETE", "")
 
     def call(self, method, path, **parameters):
         """One command of the WebDriver protocol; its path starts at the session, once there is one."""
