@@ -21,18 +21,6 @@ TEST_F(Pictures, loadTextureSetsThemUprightAndFiltersThem) {
 }
 
 
-TEST_F(Pictures, takeScreenshotShowsWhatTheWindowShowsWhateverItsAlpha) {
-    screen.texels = {10, 20, 30, 0, 40, 50, 60, 128};
-    EXPECT_EQ(takeScreenshot("shot.bmp"), 0);
-    EXPECT_EQ(calls, Lines{"read 3 5 1 2"})
-        << "the whole viewport, from its corner (3, 5): one pixel wide and two high";
-    const auto firstRow = files.saved.begin() + files.saved.at(10); // the header says where it begins
-    EXPECT_EQ(Bytes(firstRow, firstRow + 7), (Bytes{30, 20, 10, 0, 60, 50, 40}))
-        << "blue, green and red, and one byte to fill the row up to four";
-    EXPECT_EQ(takeScreenshot("nowhere.bmp"), -1);
-}
-
-
 TEST_F(Pictures, XPMFromImageWritesThreeColoursInRowsOfEights) {
     const Pixel BLACK{9, 9, 9, 255}, CLEAR{9, 9, 9, 127}, RED{128, 9, 9, 128}, GREEN{9, 128, 9, 255},
         BLUE{9, 9, 128, 255};

@@ -167,13 +167,6 @@ TEST_F(Combat, aShotIsPaidWithCleanWaterOrIsNotFired) {
 }
 
 
-TEST_F(Combat, aShotReadsNoPicture) {
-    const size_t read = textures.size();
-    turret.shoot({200, 100}, tower);
-    EXPECT_EQ(textures.size(), read);
-}
-
-
 TEST_F(Combat, aTurretDropsSeveralSpentJetsAtOnceAndKeepsTheOthers) {
     for (const Vecteur2D& target : {Vecteur2D(200, 100), turret.getPos(), Vecteur2D(100, 200)}) {
         turret.shoot(target, tower); // the second shot is aimed at the turret itself, so its jet stays there

@@ -40,6 +40,7 @@ TEST_F(GameTest, restartKeepsFourThings) {
     const int waves = Wave(1).getId();
     runSteps(2512 + 110); // the drain begins 101 steps after the wave
     const double countdown = game.getTimeBeforeNextWave();
+    ASSERT_LT(std::abs(countdown - 12.8), 0.01);
     dice = {0};
     game.restart();
     EXPECT_EQ(dice.size(), 1U) << "the ground: no dice are thrown for another one";

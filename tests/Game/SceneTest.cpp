@@ -10,10 +10,3 @@ TEST_F(GameTest, theFieldIsDrawnBackToFront) {
     game.activeTourelle();
     expectAsRecorded("field", frameLines("", 300, 338.9));
 }
-
-
-TEST_F(GameTest, anEmptyTankShowsNoRedBandInTheGauge) {
-    runSteps(1);
-    spill(100);
-    EXPECT_EQ(frameLines("BottleContent").size(), 1U);
-}

@@ -1,6 +1,5 @@
-// Replaces the files that SDL and its image library read and write, and SDL's cursors. Every file but "nowhere" can be
-// read, and written up to a thousand bytes. A picture is one white pixel unless a test says otherwise. Surfaces are
-// SDL's own.
+// Replaces the files that SDL and its image library open, and SDL's cursors. There is every picture but "nowhere", one
+// white pixel unless a test says otherwise. Surfaces are SDL's own. Of other files only the name is kept.
 
 #include "standin/standin.h"
 
@@ -8,16 +7,14 @@
 
 #include <filesystem>
 
-static bool isThere(const char* file) {
-    files.opened = std::filesystem::path(file).stem();
-    return files.opened != "nowhere";
-}
+static void keepName(const char* file) { files.opened = std::filesystem::path(file).stem(); }
 
 extern "C" {
 
 // The bytes of its pixels are in a different order from OpenGL's.
 SDL_Surface* IMG_Load(const char* file) {
-    if (!isThere(file))
+    keepName(file);
+    if (files.opened == "nowhere")
         return nullptr;
     const int rows = static_cast<int>(files.picture.size()) / files.width;
     SDL_Surface* surface = SDL_CreateRGBSurface(0, files.width, rows, 32, 0xFF000000, 0xFF0000, 0xFF00, 0xFF);
@@ -26,10 +23,8 @@ SDL_Surface* IMG_Load(const char* file) {
         *place++ = SDL_MapRGBA(surface->format, red, green, blue, alpha);
     return surface;
 }
-SDL_RWops* SDL_RWFromFile(const char* file, const char* mode) {
-    if (isThere(file) && *mode == 'w')
-        return SDL_RWFromMem(files.saved.data(), static_cast<int>(files.saved.size()));
-    SDL_SetError("It can't be opened.");
+SDL_RWops* SDL_RWFromFile(const char* file, const char*) {
+    keepName(file);
     return nullptr;
 }
 SDL_Cursor* SDL_CreateCursor(Uint8* data, Uint8* mask, int w, int h, int hot_x, int hot_y) {

@@ -56,10 +56,8 @@ inline struct Screen {
     Lines drawn;
     /// Whether all quads of the ground are drawn, or only its first one.
     bool drawsWholeGround = false;
-    /// The pixels of the last texture made, row by row from the bottom. The window shows them too.
+    /// The pixels of the last texture made, row by row from the bottom.
     std::vector<Uint8> texels;
-    /// Its left and lower edge, its width and its height.
-    std::array<GLint, 4> viewport{3, 5, 1, 2};
     GLuint texture = 0;
     bool isTextured = false;
     std::string colour;
@@ -155,10 +153,10 @@ inline struct Files {
     /// What every picture file holds, row by row from the top.
     std::vector<Pixel> picture{{255, 255, 255, 255}};
     int width = 1;
-    /// The last file asked for, without folder and extension. Every file exists except "nowhere".
+    /// The last file asked for, without folder and extension. Every picture exists except "nowhere".
     std::string opened;
-    /// The last file written, and the bits of the last cursor.
-    std::vector<Uint8> saved = std::vector<Uint8>(1000), cursorData, cursorMask;
+    /// The bits of the last cursor.
+    std::vector<Uint8> cursorData, cursorMask;
 } files;
 
 /// Compares lines with those recorded in tests/recorded/NAME.lines. If they differ, says how to accept them.
