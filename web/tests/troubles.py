@@ -299,15 +299,15 @@ def away(page):
     page.asks()
     page.is_silent()
     page.resize(600, 420)
-    picture = page.look()
-    require(sum(picture) / len(picture) > 20, "The field is black behind the question.")
+    below = page.look()[3 * WIDTH * 700:]
+    require(sum(below) / len(below) > 20, "The field is black behind the question.")
     page.click("goOn")
     page.goes_on()
     page.is_loud()
 
 
 @trouble("a call interrupts the sound for ever", "Go on brings it back, the music at its place")
-def interrupted(page):
+def new_context(page):
     page.turret()
     page.is_loud()
     page.wait_for("a place in the music", lambda: page.value("watch.music.currentTime > 2"))
