@@ -235,6 +235,7 @@ function resume() {
   program.resume();
   sound.open();
   focus(canvas);
+  suspendUnseen(); // a key can answer out of sight too
 }
 
 
