@@ -132,6 +132,7 @@ async function frontIsSeen() {
 
 
 async function loadAll() {
+  play.disabled = true; // some browsers keep what it was when the page is loaded again
   const sizes = Object.values(files.before);
   progress.max = sizes.reduce((sum, bytes) => sum + bytes, 0);
   await frontIsSeen();
