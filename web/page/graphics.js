@@ -52,15 +52,16 @@ export function open(canvas) {
 
 
 // Makes everything that the frames need, out of images by the paths that the program uses. If the browser has taken the
-// graphics away and given them back, nothing of it is left, and all is made again.
+// graphics away and given them back, nothing of it is left, and all is made again. While they are away, nothing can be
+// made.
 export async function makeTextures(images) {
-  if (gl.isTexture(textures[0]))
+  paths = Object.keys(images);
+  if (gl.isContextLost() || gl.isTexture(textures[0]))
     return;
   openProgram();
   // Pixels arrive as they are in the file. Rows are counted from below, as OpenGL counts them.
   gl.pixelStorei(gl.UNPACK_COLORSPACE_CONVERSION_WEBGL, gl.NONE);
   gl.pixelStorei(gl.UNPACK_FLIP_Y_WEBGL, true);
-  paths = Object.keys(images);
   const made = [texture(() => gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, 1, 1, 0, gl.RGBA, gl.UNSIGNED_BYTE, WHITE))];
   for (const image of Object.values(images)) {
     made.push(texture(() => gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, gl.RGBA, gl.UNSIGNED_BYTE, image)));

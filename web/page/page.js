@@ -198,6 +198,8 @@ function shown() {
   focus(canvas);
   soundsLoading ??= loadSounds();
   suspendUnseen();
+  if (graphics.isLost())
+    suspend(WAITING);
 }
 
 
@@ -211,6 +213,15 @@ function closed() {
 }
 
 
+// Without graphics the game can only be left.
+function pose(words) {
+  const lost = graphics.isLost();
+  questionText.textContent = lost ? 'The graphics were lost. Waiting for the browser to restore them…' : words;
+  goOn.disabled = lost;
+  startOver.disabled = lost;
+}
+
+
 // Nothing moves and nothing is heard until the player answers.
 function suspend(words) {
   if (state !== 'playing')
@@ -218,7 +229,7 @@ function suspend(words) {
   state = 'suspended';
   program.suspend();
   sound.suspend();
-  questionText.textContent = words;
+  pose(words);
   // The dialog would take the focus from the page around a frame, and scroll to itself.
   question.inert = true;
   question.showModal();
@@ -262,12 +273,8 @@ function limitLoss() {
 function loseGraphics(event) {
   event.preventDefault(); // otherwise the browser never restores them
   limitLoss();
-  if (state === 'starting')
-    graphicsFailed();
   suspend(WAITING);
-  questionText.textContent = 'The graphics were lost. Waiting for the browser to restore them…';
-  goOn.disabled = true;
-  startOver.disabled = true;
+  pose(WAITING); // the question may have been open already
 }
 
 
@@ -278,9 +285,7 @@ async function restoreGraphics() {
   } catch (error) {
     fail(error);
   }
-  questionText.textContent = WAITING;
-  goOn.disabled = false;
-  startOver.disabled = false;
+  pose(WAITING);
   focus(goOn);
 }
 
