@@ -35,7 +35,7 @@ void webDraw(const Corner* corners, std::size_t bytes, const Batch* batches, std
 unsigned webPicture(const char* path);
 
 /// Waits until the browser wants a frame and steps of the game are due for it, and returns how many. Does not return
-/// while the page rests.
+/// while the game is suspended.
 unsigned webNextFrame();
 
 /// Takes the oldest pending input: an SDL event type, a key or button, and a place in the window. Returns 0 if there is

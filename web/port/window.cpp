@@ -17,15 +17,9 @@
 namespace {
 
 SDL_Surface* newSurface(int width, int height) {
-    auto* format = new SDL_PixelFormat();
-    format->BitsPerPixel = 32;
-    format->BytesPerPixel = 4;
-    format->Rmask = 0x000000FF;
-    format->Gmask = 0x0000FF00;
-    format->Bmask = 0x00FF0000;
-    format->Amask = 0xFF000000;
+    static SDL_PixelFormat format; // of all surfaces; it says nothing, since only the page looks at pixels
     auto* surface = new SDL_Surface();
-    surface->format = format;
+    surface->format = &format;
     surface->w = width;
     surface->h = height;
     surface->pitch = width * 4;
@@ -49,8 +43,8 @@ void SDL_WM_SetCaption(const char* /*title*/, const char* /*icon*/) {}
 
 SDL_Surface* SDL_SetVideoMode(int width, int height, int /*bits*/, Uint32 /*flags*/) {
     webOpen(width, height);
-    static SDL_Surface* window = newSurface(width, height);
-    return window;
+    static SDL_Surface window; // only stands for the canvas
+    return &window;
 }
 
 
@@ -107,7 +101,6 @@ SDL_Surface* SDL_CreateRGBSurface(Uint32 /*flags*/, int width, int height, int /
 }
 
 
-// All surfaces have one format.
 SDL_Surface* SDL_ConvertSurface(SDL_Surface* source, SDL_PixelFormat* /*format*/, Uint32 /*flags*/) {
     SDL_Surface* copy = newSurface(source->w, source->h);
     std::memcpy(copy->pixels, source->pixels, static_cast<size_t>(source->h) * source->pitch);
@@ -123,7 +116,6 @@ void SDL_UnlockSurface(SDL_Surface* /*surface*/) {}
 
 void SDL_FreeSurface(SDL_Surface* surface) {
     std::free(surface->pixels);
-    delete surface->format;
     delete surface;
 }
 
