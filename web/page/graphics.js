@@ -26,14 +26,13 @@ const PIXEL_SHADER = `#version 300 es
 
 let gl; // none before the first game
 let mostPixels; // across the canvas
-let area; // of the canvas, in pixels of the page
 let paths = []; // of the pictures; the first one's number is 1
 let textures = []; // by the numbers of their pictures; 0 is plain white
 let background = 0; // the number of what the last frame drew first
 
 
-// Returns false if the browser has no WebGL 2. The game draws every frame completely, so nothing behind the canvas shows
-// through.
+// Returns false if the browser has no WebGL 2. The game draws every frame completely, so nothing behind the canvas
+// shows through.
 export function open(canvas) {
   if (gl)
     return true;
@@ -42,12 +41,8 @@ export function open(canvas) {
   // pixel is expensive.
   gl = canvas.getContext('webgl2', {...options, failIfMajorPerformanceCaveat: true});
   mostPixels = canvas.width * (gl ? 2 : 1);
-  gl = gl || canvas.getContext('webgl2', options);
-  if (!gl)
-    return false;
-  area = canvas.getBoundingClientRect();
-  new ResizeObserver(changes => area = changes[changes.length - 1].contentRect).observe(canvas);
-  return true;
+  gl ??= canvas.getContext('webgl2', options);
+  return Boolean(gl);
 }
 
 
@@ -123,10 +118,11 @@ export function isBackground(path) {
 }
 
 
-// Begins a frame. A canvas that changes its size is black until it is drawn on, so this is the time for that: it gets as
-// many pixels as the page shows, up to what the pictures and the machine allow.
+// Begins a frame. A canvas that changes its size is black until it is drawn on, so this is the time for that: it gets
+// as many pixels as the page shows, up to what the pictures and the machine allow.
 export function begin() {
   const {canvas} = gl;
+  const area = canvas.getBoundingClientRect();
   const scale = Math.min(devicePixelRatio, mostPixels / area.width);
   const width = Math.max(1, Math.round(area.width * scale));
   const height = Math.max(1, Math.round(area.height * scale));

@@ -50,8 +50,8 @@ export function press(key) {
 
 // The game gets no keys that the browser or the page needs.
 function onKey(event) {
-  const forOthers = suspended || event.defaultPrevented || event.ctrlKey || event.altKey || event.metaKey ||
-    /^(Tab|Escape|F\d+)$/.test(event.key) || event.target.closest?.('a, button, dialog');
+  const forOthers = suspended || event.ctrlKey || event.altKey || event.metaKey ||
+    /^(Tab|Escape|F\d+)$/.test(event.key) || event.target.closest?.('button');
   if (forOthers)
     return;
   event.preventDefault();
