@@ -15,8 +15,8 @@ export class Pace {
     this.last = null; // when the display showed its last frame
   }
 
-  // How many steps are due at a frame of this time. Times of frames are inexact, and some frames are left out. So frames
-  // are counted, and only a time that fits no number of them is measured by the clock.
+  // How many steps are due at a frame of this time. Times of frames are inexact, and some frames are left out. So
+  // frames are counted, and only a time that fits no number of them is measured by the clock.
   due(now) {
     const passed = this.last === null ? STEP : Math.max(0, now - this.last);
     this.last = now;

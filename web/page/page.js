@@ -24,9 +24,6 @@ let inSight = true; // in a long page around the game's frame
 let lossTimer;
 let soundsLoading;
 
-// A browser may refuse a request; then everything stays as it is.
-const nevermind = () => {};
-
 // Without milliseconds it gives the page time for its other work.
 const wait = milliseconds => new Promise(done => setTimeout(done, milliseconds));
 
@@ -54,7 +51,7 @@ function showFront(words, button) {
   front.hidden = false;
   focus(button);
   if (document.fullscreenElement)
-    document.exitFullscreen().catch(nevermind);
+    toggleFullScreen();
 }
 
 
@@ -120,7 +117,7 @@ async function frontIsSeen() {
   const LONGEST_UNTIL_SEEN = 1000;
   const type = 'largest-contentful-paint';
   const picture = front.querySelector('img');
-  await Promise.race([picture.decode().catch(nevermind), wait(LONGEST_ON_ITS_WAY)]);
+  await Promise.race([picture.decode().catch(() => {}), wait(LONGEST_ON_ITS_WAY)]);
   if (!PerformanceObserver.supportedEntryTypes.includes(type))
     return;
   const seen = new Promise(done => {
@@ -204,8 +201,6 @@ function shown() {
 
 
 function closed() {
-  if (state === 'broken')
-    return;
   state = 'front';
   sound.suspend();
   play.textContent = 'Play again';
@@ -290,7 +285,7 @@ async function restoreGraphics() {
 }
 
 
-async function fillScreen() {
+async function toggleFullScreen() {
   try {
     if (document.fullscreenElement) {
       await document.exitFullscreen();
@@ -299,7 +294,7 @@ async function fillScreen() {
       await screen.orientation.lock('landscape');
     }
   } catch {
-    // The window stays as it is.
+    // The browser refuses, and the window stays as it is.
   }
 }
 
@@ -321,7 +316,7 @@ onPress('sound', button => {
   sound.setOn(!sound.isOn());
   toggle(button, sound.isOn());
 });
-onPress('full', fillScreen);
+onPress('full', toggleFullScreen);
 toggle(element('sound'), sound.isOn());
 document.addEventListener('fullscreenchange', () => toggle(element('full'), Boolean(document.fullscreenElement)));
 element('full').hidden = !document.fullscreenEnabled;
@@ -354,7 +349,7 @@ document.addEventListener('visibilitychange', () => {
   limitLoss();
 });
 new IntersectionObserver(entries => {
-  inSight = entries[entries.length - 1].isIntersecting;
+  inSight = entries.at(-1).isIntersecting;
   suspendUnseen();
 }).observe(canvas);
 
@@ -366,7 +361,7 @@ for (const press of ['pointerup', 'click', 'keydown'])
   window.addEventListener(press, () => state === 'playing' && sound.wake(), true);
 
 // Players who have zoomed in must be able to zoom out again.
-window.visualViewport?.addEventListener('resize', () =>
+visualViewport.addEventListener('resize', () =>
   document.documentElement.classList.toggle('enlarged', visualViewport.scale > 1));
 
 // A long touch shows a magnifying glass on some phones. Where two fingers may zoom, they must go on to.

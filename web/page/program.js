@@ -8,7 +8,7 @@ import VorelDefense from './vorel-defense.js';
 
 let page; // what it is told: `shown`, with the first frame; `failed`, with an error; `closed`, when the game has ended
 let pace;
-let wake = null; // resumes the program, while it waits for its next step
+let wakeProgram = null; // while it waits for its next steps: called with their number
 let request; // for a frame of the display
 
 
@@ -32,16 +32,16 @@ export function start(compiled, canvas, told) {
 }
 
 
-function nextFrame(resume) {
-  const first = !wake;
-  wake = resume;
-  ask();
+function nextFrame(wake) {
+  const first = !wakeProgram;
+  wakeProgram = wake;
+  requestFrame();
   if (first)
     page.shown();
 }
 
 
-function ask() {
+function requestFrame() {
   request = requestAnimationFrame(frame);
 }
 
@@ -49,11 +49,11 @@ function ask() {
 function frame(now) {
   const steps = pace.due(now);
   if (steps === 0) {
-    ask();
+    requestFrame();
     return;
   }
   try {
-    wake(steps);
+    wakeProgram(steps);
   } catch (error) {
     page.failed(error);
   }
@@ -61,7 +61,7 @@ function frame(now) {
 
 
 // A key that a button of the page stands for.
-export const {press} = input;
+export {press} from './input.js';
 
 
 export function onTitle() {
@@ -77,17 +77,15 @@ export function suspend() {
 
 
 export function resume() {
-  if (!wake)
-    return;
   input.resume();
   pace.resume();
-  ask();
+  requestFrame();
 }
 
 
 // For ever.
 export function halt() {
   cancelAnimationFrame(request);
-  wake = null;
+  wakeProgram = null;
   input.close();
 }

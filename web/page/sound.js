@@ -1,5 +1,5 @@
-// All sound. The page opens and suspends it; the program says what to play. Volumes are from 0 to 1, and places of files
-// are the paths that the game uses.
+// All sound. The page opens and suspends it; the program says what to play. Volumes are from 0 to 1, and places of
+// files are the paths that the game uses.
 
 const NAME = 'vorel-defense.sound'; // under this name the browser remembers whether the player wants sound
 
@@ -24,18 +24,18 @@ function remembered() {
   }
 }
 
-let off = remembered() === 'off';
+let on = remembered() !== 'off';
 
 
 export function isOn() {
-  return !off;
+  return on;
 }
 
 
-export function setOn(on) {
-  off = !on;
+export function setOn(wanted) {
+  on = wanted;
   if (context) {
-    speaker.gain.value = off ? 0 : 1;
+    speaker.gain.value = on ? 1 : 0;
     stopMusic();
     startMusic();
   }
@@ -48,8 +48,8 @@ export function setOn(on) {
 
 
 // A browser lets a page make sound only after a press, and some browsers allow only what exists at that moment. So this
-// is called in response to a press, and opens everything at once. What was open before is given up: after a rest or a
-// call, some phones never bring it back, and don't say so.
+// is called in response to a press, and opens everything at once. What was open before is given up: after a call, or
+// some time in the background, some phones never bring it back, and don't say so.
 export function open() {
   suspend();
   // The game plays alongside what the player listens to, and the switch on a phone's side silences it.
@@ -57,13 +57,14 @@ export function open() {
     navigator.audioSession.type = 'ambient';
   try {
     context = new AudioContext();
-    speaker = new GainNode(context, {gain: off ? 0 : 1});
+    speaker = new GainNode(context, {gain: on ? 1 : 0});
     speaker.connect(context.destination);
     musicNode = new GainNode(context, {gain: musicVolume});
     musicNode.connect(speaker);
     // A player stays with the context that it was connected to.
     music = new Audio();
-    music.crossOrigin = 'anonymous'; // in a sandbox every file is another origin's, and silent if it is not asked for so
+    // In a sandbox every file is another origin's, and silent if it is not asked for in this way.
+    music.crossOrigin = 'anonymous';
     music.loop = true;
     music.load();
     context.createMediaElementSource(music).connect(musicNode);
@@ -80,15 +81,15 @@ export function suspend() {
   if (!context)
     return;
   stopMusic();
-  ask(context.close());
+  warnOfFailure(context.close());
   context = undefined;
   for (const channel of channels)
     Object.assign(channel, {source: null, end: 0});
 }
 
 
-// If a browser doesn't allow this now, it may allow it at the next press.
-function ask(promise) {
+// If a browser doesn't allow it now, it may at the next press, so that is not worth a warning.
+function warnOfFailure(promise) {
   promise.catch(error => {
     if (!['AbortError', 'NotAllowedError', 'InvalidStateError'].includes(error.name))
       console.warn(`Something can't be heard: ${error.message}`);
@@ -101,14 +102,14 @@ export function wake() {
   if (!context)
     return;
   if (context.state !== 'running')
-    ask(context.resume());
+    warnOfFailure(context.resume());
   startMusic();
 }
 
 
 // Music that nobody wants to hear is not fetched. After an error it is asked for again.
 function startMusic() {
-  if (!track.place || off)
+  if (!track.place || !on)
     return;
   const {error} = music;
   if (error)
@@ -121,7 +122,7 @@ function startMusic() {
     music.currentTime = track.seconds;
   }
   if (music.paused)
-    ask(music.play());
+    warnOfFailure(music.play());
 }
 
 
