@@ -90,6 +90,7 @@ TEST_F(Combat, aJetFliesToTheEndOfItsRange) {
     EXPECT_TRUE(exact.isSolide()) << "300 pixels are within a range of 300";
     update(jet, 188);
     EXPECT_TRUE(jet.isNeedToBeDelete()) << "300.8 pixels are not";
+    EXPECT_FALSE(jet.isSolide());
 }
 
 

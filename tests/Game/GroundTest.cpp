@@ -24,7 +24,7 @@ TEST_F(GroundTest, creerTacheMarksADiscOfWholeCellsCutAtTheMapsEdge) {
 TEST_F(GroundTest, creation_solThrowsTheDiceOfFiveGroupsInOrder) {
     // What is rolled for each group: its chance, its column and row, then radius, row and column of each of two
     // patches. The last group is in the middle and rolls no place.
-    const std::vector<int> LOWER_LEFT{59, 19, 15, 0, 1, 1, 9, 2, 0}, LOWER_RIGHT{0, 15, 11, 0, 1, 1, 0, 1, 1},
+    const std::vector<int> LOWER_LEFT{159, 19, 15, 0, 1, 1, 9, 2, 0}, LOWER_RIGHT{0, 15, 11, 0, 1, 1, 0, 1, 1},
         UPPER_LEFT{0, 19, 15, 0, 1, 1, 0, 1, 1}, UPPER_RIGHT{0, 15, 11, 0, 1, 1, 0, 1, 1}, MIDDLE{0, 0, 5, 3, 9, 4, 7};
     for (const auto& rolls : {LOWER_LEFT, LOWER_RIGHT, UPPER_LEFT, UPPER_RIGHT, MIDDLE})
         dice.insert(dice.end(), rolls.begin(), rolls.end());

@@ -37,6 +37,9 @@ TEST(Vecteur, calculatesJoinsSlicesAndPrints) {
     for (const auto& [operation, result, expected] : cases)
         EXPECT_EQ(result, expected) << operation;
     EXPECT_EQ(two.normalise(), Vecteur({3 * 0.2, 4 * 0.2})) << "multiplies by the reciprocal";
+    testing::internal::CaptureStdout();
+    abc.affiche();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "1 2 3\n");
 }
 
 
@@ -51,7 +54,8 @@ TEST(Vecteur, raisesItsKindOfErrorAndChangesNothing) {
         RAISES(Vecteur2D(std::vector<double>(1))), RAISES(Vecteur2D({1, 2, 3}))};
     // clang-format on
     for (const auto& [operation, error] : ofAnotherSize)
-        EXPECT_EQ(error.find("vecteurSizeIncorect: "), 0U) << operation << " raises " << error;
+        EXPECT_EQ(error.find("vecteurSizeIncorect: Exception 1. in src/Vecteur/"), 0U)
+            << operation << " raises " << error;
     for (const auto& [operation, error] : {RAISES(abc.coord(3)), RAISES(pair.setCoord(4, 2))})
         EXPECT_EQ(error.find("vecteurReadValueIncorrect: "), 0U) << operation << " raises " << error;
     EXPECT_EQ(pair, flat) << "both are still 1 2";
