@@ -27,7 +27,7 @@ bool skipTag(std::istream& file) {
     constexpr int SIZE_BEGINS = 6;
     constexpr unsigned HAS_FOOTER = 0x10;
     constexpr std::streamoff FOOTER_BYTES = 10;
-    const std::streampos begin = file.tellg();
+    const auto begin = file.tellg();
     std::array<unsigned char, 10> header{};
     file.read(reinterpret_cast<char*>(header.data()), header.size());
     if (!file || header[0] != 'I' || header[1] != 'D' || header[2] != '3') {
