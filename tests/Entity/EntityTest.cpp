@@ -4,6 +4,7 @@
 #include "Entity/Ennemi.h"
 #include "Entity/Tower.h"
 #include "Game/GameTest.h"
+#include "standin/standin.h"
 
 /// One object of each class, as the game builds them. `tower` stands where the game's own tower does. Grunts walk to
 /// the game's, but the turret, at (100, 100) like the jet, takes its water from this one.

@@ -3,6 +3,7 @@
 #include "Wave/Wave.h"
 #include "drawing.h"
 #include "sdlglutils.h"
+#include "standin/standin.h"
 
 #include <stdexcept>
 

@@ -1,4 +1,5 @@
 #include "Game/GameTest.h"
+#include "standin/standin.h"
 
 #include <fstream>
 
