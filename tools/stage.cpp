@@ -7,9 +7,8 @@
 // the work per frame is printed. N stands for a number in these scenes:
 //
 //     title       the title screen
-//     everything  a frame that stays: ten turrets at work and one about to be bought; the title and the end of a wave
-//     are
-//                 small pictures in it
+//     everything  a frame that stays: ten turrets at work and one about to be bought, with the title and the end of a
+//                 wave as small pictures in it
 //     busy        ten turrets fire at the two dozen grunts on the field and at the three dozen that follow
 //     waveN       ten turrets at work 24 seconds after the beginning of wave N
 //     waterN      N units of water are left

@@ -146,7 +146,7 @@ async function loadAll() {
 }
 
 
-// One after another. Those that do not arrive are asked for again, more and more rarely.
+// One after another. Those that do not arrive are retried with a growing delay.
 async function loadSounds() {
   for (let seconds = 2; files.sounds.length > 0; seconds = Math.min(2 * seconds, 30)) {
     for (const file of files.sounds.splice(0))
